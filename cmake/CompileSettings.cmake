@@ -1,0 +1,22 @@
+# What every target is compiled with, and what the library's own sources are compiled with besides.
+
+add_library(vorn_settings INTERFACE)
+target_compile_features(vorn_settings INTERFACE cxx_std_20)
+target_compile_options(vorn_settings INTERFACE
+  -Wall -Wextra -Wpedantic -Wconversion -Werror
+  # The same sources give the same bytes wherever they lie.
+  -ffile-prefix-map=${CMAKE_SOURCE_DIR}=.)
+
+if(WIN32)
+  target_compile_definitions(vorn_settings INTERFACE _WIN32_WINNT=0x0601 WINVER=0x0601)
+endif()
+# What goes into the DLL does without exceptions and run-time type information.
+add_library(vorn_library_settings INTERFACE)
+target_link_libraries(vorn_library_settings INTERFACE vorn_settings)
+target_compile_options(vorn_library_settings INTERFACE -fno-exceptions -fno-rtti)
+
+if(VORN_SANITIZE)
+  add_compile_options(-fsanitize=address,undefined -fno-sanitize=vptr
+                      -fno-sanitize-recover=all -fno-omit-frame-pointer)
+  add_link_options(-fsanitize=address,undefined)
+endif()

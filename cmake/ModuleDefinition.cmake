@@ -1,0 +1,27 @@
+# Makes the two module-definition files from the list of exports: one for the linker, which maps
+# each exported name to the function's own symbol, and one for the import library, which maps the
+# symbols that a host's compiler asks for to the exported names.
+
+function(vorn_module_definitions list dll_definition import_definition)
+  set_property(DIRECTORY APPEND PROPERTY CMAKE_CONFIGURE_DEPENDS ${list})
+  file(STRINGS ${list} lines REGEX "^[^#]")
+  set(exports "LIBRARY VORN32.dll\nEXPORTS\n")
+  set(imports "LIBRARY VORN32.dll\nEXPORTS\n")
+  foreach(line IN LISTS lines)
+    string(REPLACE " " ";" fields "${line}")
+    list(GET fields 0 name)
+    list(GET fields 1 bytes)
+    if(CMAKE_SYSTEM_PROCESSOR STREQUAL i686)
+      set(symbol "${name}@${bytes}")
+    else()
+      set(symbol "${name}")
+    endif()
+    string(APPEND exports "  ${name} = ${symbol}\n")
+    string(APPEND imports "  ${symbol}\n")
+    if("decorated" IN_LIST fields)
+      string(APPEND exports "  _${name}@${bytes} = ${symbol}\n")
+    endif()
+  endforeach()
+  file(CONFIGURE OUTPUT ${dll_definition} CONTENT "${exports}" @ONLY)
+  file(CONFIGURE OUTPUT ${import_definition} CONTENT "${imports}" @ONLY)
+endfunction()

@@ -1,0 +1,49 @@
+# VORN32.dll, its import library, and the same code as a static library for tests that look inside.
+enable_language(RC)
+include(ModuleDefinition)
+
+set(dll_definition ${CMAKE_BINARY_DIR}/vorn32.def)
+set(import_definition ${CMAKE_BINARY_DIR}/vorn32_import.def)
+vorn_module_definitions(${CMAKE_SOURCE_DIR}/core/exports.txt ${dll_definition} ${import_definition})
+
+string(REPLACE "." "," version_numbers ${PROJECT_VERSION})
+configure_file(resources/version.h.in ${CMAKE_BINARY_DIR}/version/version.h @ONLY)
+
+set(system_libraries user32 gdi32 version mpr)
+
+# Linked as C: nothing of the C++ runtime may be needed.
+add_library(VORN32 MODULE ${window_sources} resources/vorn32.rc ${dll_definition})
+target_link_libraries(VORN32 PRIVATE vorn_logic vorn_library_settings ${system_libraries})
+target_include_directories(VORN32 PRIVATE include ${CMAKE_BINARY_DIR}/version)
+target_compile_definitions(VORN32 PRIVATE VORN32_BUILD)
+set_target_properties(VORN32 PROPERTIES
+  PREFIX "" LINKER_LANGUAGE C LIBRARY_OUTPUT_DIRECTORY ${CMAKE_BINARY_DIR})
+target_link_options(VORN32 PRIVATE
+  -s -static-libgcc
+  -Wl,--dynamicbase,--nxcompat,--no-insert-timestamp,--no-seh
+  -Wl,--exclude-all-symbols)
+if(CMAKE_SIZEOF_VOID_P EQUAL 8)
+  target_link_options(VORN32 PRIVATE -Wl,--high-entropy-va)
+endif()
+
+set(import_library ${CMAKE_BINARY_DIR}/libVORN32.a)
+add_custom_command(
+  OUTPUT ${import_library}
+  COMMAND ${VORN_TARGET_TRIPLE}-dlltool --kill-at --input-def ${import_definition}
+          --output-lib ${import_library} --dllname VORN32.dll
+  DEPENDS ${import_definition}
+  COMMENT "Making the import library"
+  VERBATIM)
+add_custom_target(vorn_import_library ALL DEPENDS ${import_library})
+
+# What a host links with.
+add_library(vorn_host INTERFACE)
+add_dependencies(vorn_host VORN32 vorn_import_library)
+target_include_directories(vorn_host INTERFACE ${CMAKE_SOURCE_DIR}/include)
+target_link_libraries(vorn_host INTERFACE ${import_library})
+
+add_library(vorn_window_testing STATIC EXCLUDE_FROM_ALL ${window_sources})
+target_compile_definitions(vorn_window_testing PUBLIC VORN32_BUILD VORN_TEST_HOOKS)
+target_include_directories(vorn_window_testing PUBLIC include ${CMAKE_BINARY_DIR}/version)
+target_link_libraries(vorn_window_testing PUBLIC vorn_logic ${system_libraries}
+                                          PRIVATE vorn_library_settings)

@@ -1,0 +1,42 @@
+// Small pieces of painting that every control uses.
+#pragma once
+
+#include "core/geometry_win.h"
+#include "core/platform_win.h"
+
+namespace vorn {
+
+// Puts the device context back as it was, what was selected included.
+class SavedContext {
+public:
+    explicit SavedContext(HDC context) : context_(context), saved_(SaveDC(context)) {}
+    ~SavedContext() { RestoreDC(context_, saved_); }
+    SavedContext(const SavedContext&) = delete;
+    SavedContext& operator=(const SavedContext&) = delete;
+
+private:
+    HDC context_;
+    int saved_;
+};
+
+// The screen's device context, for measuring text.
+class ScreenContext {
+public:
+    ScreenContext() : context_(GetDC(nullptr)) {}
+    ~ScreenContext() { ReleaseDC(nullptr, context_); }
+    ScreenContext(const ScreenContext&) = delete;
+    ScreenContext& operator=(const ScreenContext&) = delete;
+
+    HDC get() const { return context_; }
+
+private:
+    HDC context_;
+};
+
+// Fills with one colour; an empty or inverted rectangle paints nothing.
+void FillWithColor(HDC context, const Rect& rect, COLORREF color);
+
+// The metrics of a font, measured on the screen.
+TEXTMETRICA MeasureFont(HFONT font);
+
+} // namespace vorn

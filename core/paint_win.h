@@ -1,0 +1,70 @@
+// Painting off screen, and painting that asks the parent for colours.
+#pragma once
+
+#include "core/geometry_win.h"
+#include "core/platform_win.h"
+#include "core/record_win.h"
+
+namespace vorn {
+
+// From its construction to the end of its scope a WM_PAINT is answered: drawing goes to a bitmap as
+// large as the part to repaint, in client coordinates, and is copied to the screen at the end. When
+// there is no memory for the bitmap, drawing goes to the screen. The window may be destroyed
+// in between.
+class OffscreenPaint {
+public:
+    explicit OffscreenPaint(HWND window);
+    ~OffscreenPaint();
+    OffscreenPaint(const OffscreenPaint&) = delete;
+    OffscreenPaint& operator=(const OffscreenPaint&) = delete;
+
+    HDC context() const { return memory_ != nullptr ? memory_ : paint_.hdc; }
+
+    // What needs repainting, in client coordinates.
+    const RECT& area() const { return paint_.rcPaint; }
+
+private:
+    HWND window_;
+    PAINTSTRUCT paint_{};
+    HDC memory_ = nullptr;
+    HBITMAP bitmap_ = nullptr;
+    int saved_ = 0;
+};
+
+// A record's share in PaintWindow.
+struct PaintState {
+    bool painting = false;
+    bool again = false; // asked to paint while painting
+};
+
+// Answers WM_PAINT with `draw(window, offscreen)`, which may run host code. A host that makes the
+// control repaint from there would recurse without end; such a repaint is put off until the first
+// has ended. The record type has a PaintState named `paint`.
+template <class Record, class Draw>
+LRESULT PaintWindow(HWND window, Draw draw) {
+    Record* record = RecordOf<Record>(window);
+    if (record == nullptr) {
+        return DefWindowProcA(window, WM_PAINT, 0, 0);
+    }
+    if (record->paint.painting) {
+        record->paint.again = true;
+        ValidateRect(window, nullptr);
+        return 0;
+    }
+    record->paint.painting = true;
+    {
+        OffscreenPaint offscreen(window);
+        draw(window, offscreen);
+    }
+    record = RecordOf<Record>(window);
+    if (record != nullptr) {
+        const bool again = record->paint.again;
+        record->paint = {};
+        if (again) {
+            InvalidateRect(window, nullptr, FALSE);
+        }
+    }
+    return 0;
+}
+
+} // namespace vorn

@@ -1,0 +1,24 @@
+// What controls do to their own window and say to their parent.
+#pragma once
+
+#include "core/platform_win.h"
+
+namespace vorn {
+
+// Repaints the rectangle, or the whole window, at once. Host code may run.
+inline BOOL Redraw(HWND window, const RECT* rect = nullptr) {
+    return RedrawWindow(window, rect, nullptr, RDW_INVALIDATE | RDW_UPDATENOW);
+}
+
+// Clears some style bits and sets others. Host code may run.
+void ChangeStyle(HWND window, DWORD clear, DWORD set);
+
+// Sends the parent WM_COMMAND with the control's identifier and this code. Host code runs: the
+// control may be gone afterwards.
+void NotifyParent(HWND window, WORD code);
+
+// Whether the control lives in a host application that wants the library's alternative look: one of
+// its ancestors is of the class "rwswnd", or its parent says so when asked. Host code may run.
+bool IsInHostApp(HWND window);
+
+} // namespace vorn

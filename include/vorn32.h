@@ -1,0 +1,10 @@
+/*
+ * VORN32: eleven custom controls for Windows programs. This header brings all of them.
+ */
+#ifndef VORN32_H
+#define VORN32_H
+
+#include <vorn32/library.h>
+#include <vorn32/percentbar.h>
+
+#endif

@@ -1,0 +1,81 @@
+# What each command needs from the system's package manager, and how it gets there.
+# shellcheck shell=bash
+
+# Each group: the packages, and why they are needed.
+native_packages=(cmake ninja-build g++ python3)
+native_reason="to build"
+cross_packages=(g++-mingw-w64-i686-posix g++-mingw-w64-x86-64-posix)
+cross_reason="to build Windows programs of both architectures"
+wine_packages=(wine wine64 fonts-wine fonts-liberation xvfb xauth)
+wine_reason="to run Windows programs, on a virtual display where there is none"
+wine32_packages=(wine32:i386)
+wine32_reason="to run 32-bit Windows programs"
+picture_packages=(netpbm)
+picture_reason="to write pictures as PNG"
+test_packages=(clang clang-format clang-tidy libclang-rt-14-dev googletest shellcheck git binutils)
+test_reason="to test and to check the source"
+bench_packages=(libbenchmark-dev)
+bench_reason="to measure"
+
+missing_of() {
+  local package
+  for package in "$@"; do
+    dpkg-query -W -f '${db:Status-Status}\n' "$package" 2>/dev/null | grep -qx installed ||
+      printf '%s\n' "$package"
+  done
+}
+
+apt() {
+  apt-get -o DPkg::Lock::Timeout=600 -o Acquire::Retries=2 "$@"
+}
+
+# The 32-bit and the 64-bit Wine share libraries, whose versions must agree: where the machine's
+# release has more than one source, all come from the release itself.
+install_packages() {
+  local release
+  release=$(. /etc/os-release && printf '%s' "${VERSION_CODENAME:-}")
+  DEBIAN_FRONTEND=noninteractive apt install -y --no-install-recommends ${release:+-t "$release"} "$@"
+}
+
+# The update's own exit status says little: one index that does not match fails it though all that
+# is needed came. The installation after it is what counts.
+update_package_lists() {
+  [ -n "${package_lists_updated:-}" ] && return
+  package_lists_updated=1
+  mkdir -p "$build/logs"
+  apt update >"$build/logs/apt-update.log" 2>&1 || true
+}
+
+# ensure GROUP...: installs what is missing of the groups. Fails with a sentence when it cannot.
+ensure() {
+  local group missing=()
+  for group in "$@"; do
+    local list="${group}_packages[@]" reason="${group}_reason"
+    local lacking
+    mapfile -t lacking < <(missing_of "${!list}")
+    [ "${#lacking[@]}" -gt 0 ] || continue
+    say "installing ${!reason}: ${lacking[*]}"
+    missing+=("${lacking[@]}")
+  done
+  [ "${#missing[@]}" -gt 0 ] || return 0
+  command -v apt-get >/dev/null ||
+    die "this machine has no apt-get; install what answers to these Debian packages: ${missing[*]}"
+  [ "$(id -u)" -eq 0 ] ||
+    die "packages are missing and only root can install them; run: sudo apt-get install ${missing[*]}"
+  update_package_lists
+  if ! install_packages "${missing[@]}" >"$build/logs/apt-install.log" 2>&1; then
+    tail -n 5 "$build/logs/apt-install.log" >&2
+    die "the packages could not be installed (see $build/logs/apt-install.log); check the network, then run this again."
+  fi
+}
+
+# Answers whether 32-bit Windows programs can run here, after trying to make it so.
+ensure_wine32() {
+  [ -z "$(missing_of "${wine32_packages[@]}")" ] && return 0
+  command -v apt-get >/dev/null && [ "$(id -u)" -eq 0 ] || return 1
+  say "installing ${wine32_reason}: ${wine32_packages[*]}"
+  dpkg --add-architecture i386 || return 1
+  package_lists_updated=
+  update_package_lists
+  install_packages "${wine32_packages[@]}" >"$build/logs/apt-install-wine32.log" 2>&1
+}
