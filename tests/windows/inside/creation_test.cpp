@@ -1,0 +1,50 @@
+// Creation without memory, and blocks that stay behind.
+#include "core/memory.h"
+#include "tests/windows/support/host_window.h"
+
+#include <gtest/gtest.h>
+#include <vorn32.h>
+
+namespace vorn {
+namespace {
+
+TEST(Creation, FailsWithoutMemoryAndLeavesNoBlock) {
+    test::HostWindow host;
+    const std::uint32_t before = BlockCount();
+    FailAllocationsAfter(0);
+    EXPECT_EQ(host.Create(VORN_PERCENTBAR_CLASS, VPBS_PERCENT, 0, 0, 50, 20), nullptr);
+    FailAllocationsAfter(-1);
+    EXPECT_EQ(BlockCount(), before);
+}
+
+TEST(Creation, AThousandControlsLeaveNoBlock) {
+    test::HostWindow host;
+    const std::uint32_t before = BlockCount();
+    for (int i = 0; i < 1000; ++i) {
+        HWND bar = host.Create(VORN_PERCENTBAR_CLASS, VPBS_PERCENT | VPBS_SCALETEXT, 0, 0, 50, 20);
+        ASSERT_NE(bar, nullptr);
+        EXPECT_GT(BlockCount(), before);
+        DestroyWindow(bar);
+        ASSERT_EQ(BlockCount(), before);
+    }
+}
+
+TEST(Creation, ByAClassWithoutRoomForTheRecordFailsCleanly) {
+    WNDCLASSA small{};
+    small.lpfnWndProc = VORNPctBarWinFn;
+    small.hInstance = GetModuleHandleA(nullptr);
+    small.lpszClassName = VORN_PERCENTBAR_CLASS; // the same name, the program's own class
+    small.cbWndExtra = 0;
+    const ATOM atom = RegisterClassA(&small);
+    if (atom == 0) {
+        GTEST_FAIL() << "the program already has a class of this name";
+    }
+    test::HostWindow host;
+    const std::uint32_t before = BlockCount();
+    EXPECT_EQ(host.Create(VORN_PERCENTBAR_CLASS, 0, 0, 0, 50, 20), nullptr);
+    EXPECT_EQ(BlockCount(), before);
+    UnregisterClassA(VORN_PERCENTBAR_CLASS, GetModuleHandleA(nullptr));
+}
+
+} // namespace
+} // namespace vorn

@@ -1,0 +1,160 @@
+// The shared painters, on real device contexts.
+#include "core/frames_win.h"
+#include "core/transparent_blit_win.h"
+#include "tests/support/frame_pictures.h"
+#include "tests/windows/support/pixels.h"
+
+#include <gtest/gtest.h>
+
+namespace vorn {
+namespace {
+
+using test::Drawing;
+using test::Picture;
+
+constexpr COLORREF kPaper = RGB(255, 255, 255);
+constexpr COLORREF kA = RGB(255, 0, 0);
+constexpr COLORREF kB = RGB(0, 255, 0);
+constexpr COLORREF kC = RGB(0, 0, 255);
+
+std::map<COLORREF, char> FrameLetters() {
+    return {{kPaper, '.'}, {kA, 'A'}, {kB, 'B'}, {kC, 'C'}, {GetSysColor(COLOR_WINDOWFRAME), 'W'}};
+}
+
+using FramePainter = void (*)(HDC, const Rect&, const FrameColors&);
+
+Picture Painted(FramePainter paint, const Rect& rect, const Picture& sizedLike) {
+    return Drawing(static_cast<int>(sizedLike[0].size()), static_cast<int>(sizedLike.size()),
+                   kPaper,
+                   [&](HDC context) {
+                       paint(context, rect, {kA, kB, kC});
+                   })
+        .Letters(FrameLetters());
+}
+
+TEST(FramePainters, PaintThePictures) {
+    for (const test::FramePicture& picture : test::FramePictures()) {
+        EXPECT_EQ(Painted(DrawSunkenFrame, picture.rect, picture.sunken), picture.sunken)
+            << picture.name;
+        EXPECT_EQ(Painted(DrawRaisedFrame, picture.rect, picture.raised), picture.raised)
+            << picture.name;
+    }
+}
+
+TEST(FramePainters, LeaveTheBlackPenSelected) {
+    for (const FramePainter paint : {DrawSunkenFrame, DrawRaisedFrame}) {
+        Drawing(10, 8, kPaper, [&](HDC context) {
+            SelectObject(context, GetStockObject(WHITE_PEN));
+            paint(context, {1, 1, 9, 7}, {kA, kB, kC});
+            EXPECT_EQ(GetCurrentObject(context, OBJ_PEN), GetStockObject(BLACK_PEN));
+        });
+    }
+}
+
+TEST(FramePainters, OutlineHasAllFourSides) {
+    const Picture expected = {"......", ".AAAA.", ".A..A.", ".AAAA.", "......"};
+    const Picture painted = Drawing(6, 5, kPaper, [](HDC context) {
+                                DrawOutline(context, {1, 1, 5, 4}, kA);
+                            }).Letters(FrameLetters());
+    EXPECT_EQ(painted, expected);
+}
+
+// A bitmap of letters: the colours of the map, transparent where its bottom-left letter occurs.
+HBITMAP BitmapOf(const Picture& picture, const std::map<char, COLORREF>& colors) {
+    const int width = static_cast<int>(picture[0].size());
+    const int height = static_cast<int>(picture.size());
+    HDC screen = GetDC(nullptr);
+    HBITMAP bitmap = CreateCompatibleBitmap(screen, width, height);
+    HDC context = CreateCompatibleDC(screen);
+    ReleaseDC(nullptr, screen);
+    HGDIOBJ previous = SelectObject(context, bitmap);
+    for (int y = 0; y < height; ++y) {
+        for (int x = 0; x < width; ++x) {
+            SetPixel(context, x, y,
+                     colors.at(picture[static_cast<std::size_t>(y)][static_cast<std::size_t>(x)]));
+        }
+    }
+    SelectObject(context, previous);
+    DeleteDC(context);
+    return bitmap;
+}
+
+constexpr COLORREF kPink = RGB(255, 0, 255);
+constexpr COLORREF kBack = RGB(200, 220, 240);
+const std::map<char, COLORREF> kInks = {{'t', kPink}, {'r', kA}, {'g', kB}, {'k', RGB(0, 0, 0)}};
+const std::map<COLORREF, char> kResult = {{kPaper, '.'}, {kBack, 'b'},        {kA, 'r'},
+                                          {kB, 'g'},     {RGB(0, 0, 0), 'k'}, {kPink, 't'}};
+
+Picture Blitted(HBITMAP bitmap, const Rect& target, Point source) {
+    return Drawing(
+               8, 6, kPaper,
+               [&](HDC context) { DrawTransparentBitmap(context, target, bitmap, source, kBack); })
+        .Letters(kResult);
+}
+
+TEST(TransparentBitmap, ReplacesItsBottomLeftColorWhereverItOccurs) {
+    HBITMAP bitmap = BitmapOf({"trrk", "rttg", "rtgg", "tkkr"}, kInks);
+    EXPECT_EQ(Blitted(bitmap, {2, 1, 6, 5}, {0, 0}), (Picture{
+                                                         "........",
+                                                         "..brrk..",
+                                                         "..rbbg..",
+                                                         "..rbgg..",
+                                                         "..bkkr..",
+                                                         "........",
+                                                     }));
+    DeleteObject(bitmap);
+}
+
+TEST(TransparentBitmap, TakesTheColorFromTheWholeBitmapNotThePiece) {
+    // The piece's own bottom-left pixel is red; pink is still what is transparent.
+    HBITMAP bitmap = BitmapOf({"ttrt", "ttrg", "tttt"}, kInks);
+    EXPECT_EQ(Blitted(bitmap, {0, 0, 2, 2}, {2, 0}), (Picture{
+                                                         "rb......",
+                                                         "rg......",
+                                                         "........",
+                                                         "........",
+                                                         "........",
+                                                         "........",
+                                                     }));
+    DeleteObject(bitmap);
+}
+
+TEST(TransparentBitmap, ShowsTheBackgroundBeyondTheEdge) {
+    HBITMAP bitmap = BitmapOf({"rr", "tk"}, kInks);
+    EXPECT_EQ(Blitted(bitmap, {1, 1, 6, 5}, {1, 0}), (Picture{
+                                                         "........",
+                                                         ".rbbbb..",
+                                                         ".kbbbb..",
+                                                         ".bbbbb..",
+                                                         ".bbbbb..",
+                                                         "........",
+                                                     }));
+    EXPECT_EQ(Blitted(bitmap, {0, 0, 2, 2}, {10, 10}), (Picture{
+                                                           "bb......",
+                                                           "bb......",
+                                                           "........",
+                                                           "........",
+                                                           "........",
+                                                           "........",
+                                                       }));
+    DeleteObject(bitmap);
+}
+
+TEST(TransparentBitmap, WorksWithOneBitAPixel) {
+    for (const bool blackIsTransparent : {true, false}) {
+        // Two columns: the left one set (white), the right one clear (black), or turned.
+        const WORD rows[] = {static_cast<WORD>(blackIsTransparent ? 0x0040 : 0x0080),
+                             static_cast<WORD>(blackIsTransparent ? 0x0040 : 0x0080)};
+        HBITMAP bitmap = CreateBitmap(2, 2, 1, 1, rows);
+        const Picture painted = Blitted(bitmap, {0, 0, 2, 2}, {0, 0});
+        EXPECT_EQ(painted[0], blackIsTransparent ? "b......." : "bk......");
+        DeleteObject(bitmap);
+    }
+}
+
+TEST(TransparentBitmap, OfNullPaintsNothing) {
+    EXPECT_EQ(Blitted(nullptr, {0, 0, 4, 4}, {0, 0}), Picture(6, "........"));
+}
+
+} // namespace
+} // namespace vorn

@@ -1,0 +1,120 @@
+#include "tests/windows/support/abuse.h"
+
+#include "tests/windows/support/host_window.h"
+
+#include <algorithm>
+#include <array>
+#include <cstdio>
+#include <random>
+
+namespace vorn::test {
+namespace {
+
+constexpr char kForeignClass[] = "VornTestForeign";
+constexpr int kForeignExtra = 48;
+
+// Messages that carry pointers, or that the default procedure answers with a modal loop.
+constexpr std::array<UINT, 40> kLeftOut = {
+    WM_CREATE,
+    WM_SETTEXT,
+    WM_GETTEXT,
+    WM_GETMINMAXINFO,
+    WM_DRAWITEM,
+    WM_MEASUREITEM,
+    WM_DELETEITEM,
+    WM_COMPAREITEM,
+    WM_WINDOWPOSCHANGED,
+    WM_WINDOWPOSCHANGING,
+    WM_COPYDATA,
+    WM_NOTIFY,
+    WM_HELP,
+    WM_STYLECHANGED,
+    WM_STYLECHANGING,
+    WM_NCCREATE,
+    WM_NCCALCSIZE,
+    WM_SYSCOMMAND,
+    WM_NCLBUTTONDOWN,
+    WM_SIZING,
+    WM_MOVING,
+    WM_DEVICECHANGE,
+    WM_MDICREATE,
+    WM_WININICHANGE,
+    WM_DEVMODECHANGE,
+    WM_ASKCBFORMATNAME,
+    WM_POWERBROADCAST,
+    WM_CONTEXTMENU,
+    WM_GETICON,
+    WM_SETICON,
+    WM_NCRBUTTONDOWN,
+    WM_ENTERIDLE,
+    WM_NEXTMENU,
+    WM_GETDLGCODE,
+    WM_INPUTLANGCHANGEREQUEST,
+    WM_INPUTLANGCHANGE,
+    WM_PRINT,
+    WM_PRINTCLIENT,
+    WM_MDIGETACTIVE,
+    WM_GETTEXTLENGTH,
+};
+
+bool IsLeftOut(UINT message) {
+    const bool dde = message >= 0x03E0 && message <= 0x03E8;
+    const bool ime =
+        (message >= 0x0281 && message <= 0x0291) || (message >= 0x010D && message <= 0x010F);
+    const bool menu = message >= 0x01E0 && message <= 0x01FF;
+    const bool internal = message >= 0x0060 && message <= 0x006F;
+    return dde || ime || menu || internal ||
+           std::find(kLeftOut.begin(), kLeftOut.end(), message) != kLeftOut.end();
+}
+
+} // namespace
+
+HWND CreateForeignWindow() {
+    WNDCLASSA windowClass{};
+    windowClass.lpfnWndProc = DefWindowProcA;
+    windowClass.cbWndExtra = kForeignExtra;
+    windowClass.hInstance = GetModuleHandleA(nullptr);
+    windowClass.lpszClassName = kForeignClass;
+    RegisterClassA(&windowClass);
+    HWND window = CreateWindowExA(0, kForeignClass, "", WS_POPUP, 0, 0, 10, 10, nullptr, nullptr,
+                                  windowClass.hInstance, nullptr);
+    for (int offset = 0; offset + 4 <= kForeignExtra; offset += 4) {
+        SetWindowLongA(window, offset, 0x5A5A5A5A);
+    }
+    return window;
+}
+
+HWND DestroyedWindow() {
+    HWND window = CreateForeignWindow();
+    DestroyWindow(window);
+    return window;
+}
+
+void SendRandomMessages(const std::function<HWND()>& create, std::uint32_t seed, int count) {
+    std::printf("random messages with seed %u\n", seed);
+    std::mt19937 random(seed);
+    const std::array<LPARAM, 8> edges = {
+        0, 1, -1, 100, 0x7FFFFFFF, static_cast<LONG>(0x80000000), 0x00050005, 0x7FFF7FFF};
+    const auto parameter = [&] {
+        return random() % 2 == 0 ? edges[random() % edges.size()]
+                                 : static_cast<LPARAM>(static_cast<LONG>(random()));
+    };
+    HWND window = nullptr;
+    for (int sent = 0; sent < count; ++sent) {
+        if (!IsWindow(window)) {
+            window = create();
+        }
+        const UINT message = random() % (WM_USER + 513);
+        if (!IsLeftOut(message)) {
+            SendMessageA(window, message, static_cast<WPARAM>(parameter()), parameter());
+        }
+        if (sent % 1000 == 0) {
+            PumpMessages();
+        }
+    }
+    if (IsWindow(window)) {
+        DestroyWindow(window);
+    }
+}
+
+} // namespace vorn::test

@@ -1,0 +1,22 @@
+// What every control must bear.
+#pragma once
+
+#include <windows.h>
+#include <cstdint>
+#include <functional>
+
+namespace vorn::test {
+
+// A window that is none of the library's: of a class of its own with extra bytes full of
+// nonsense that would be taken for a record.
+HWND CreateForeignWindow();
+
+// A handle of a window that is gone.
+HWND DestroyedWindow();
+
+// Sends random messages from WM_NULL to WM_USER + 512 with random parameters to the window, which
+// is created again when it is gone. Messages whose parameters are pointers are left out. The seed
+// is printed.
+void SendRandomMessages(const std::function<HWND()>& create, std::uint32_t seed, int count);
+
+} // namespace vorn::test

@@ -1,0 +1,64 @@
+#include "tests/windows/support/objects.h"
+
+#include <windows.h>
+#include <cstdlib>
+
+namespace vorn::test {
+namespace {
+
+constexpr int kWarmUp = 50;
+constexpr int kCycles = 1000;
+// Tables are reused in an order of their own, so a place may move a little without a leak. One
+// object left in ten cycles moves it further.
+constexpr int kTolerance = kCycles / 10;
+
+struct Places {
+    int gdi;
+    int user;
+};
+
+// The index part of a handle.
+int IndexOf(const void* handle) {
+    return LOWORD(reinterpret_cast<UINT_PTR>(handle));
+}
+
+Places FindPlaces() {
+    HBRUSH brush = CreateSolidBrush(RGB(1, 2, 3));
+    HWND window =
+        CreateWindowExA(0, "STATIC", "", WS_POPUP, 0, 0, 1, 1, nullptr, nullptr, nullptr, nullptr);
+    const Places places = {IndexOf(brush), IndexOf(window)};
+    DeleteObject(brush);
+    DestroyWindow(window);
+    return places;
+}
+
+DWORD Counted(DWORD kind) {
+    return GetGuiResources(GetCurrentProcess(), kind);
+}
+
+} // namespace
+
+std::string ObjectsLeftBy(const std::function<void()>& cycle) {
+    for (int i = 0; i < kWarmUp; ++i) {
+        cycle();
+    }
+    const Places before = FindPlaces();
+    const DWORD gdi = Counted(GR_GDIOBJECTS);
+    const DWORD user = Counted(GR_USEROBJECTS);
+    for (int i = 0; i < kCycles; ++i) {
+        cycle();
+    }
+    if (Counted(GR_GDIOBJECTS) != gdi || Counted(GR_USEROBJECTS) != user) {
+        return "the system counts more or fewer objects than before";
+    }
+    const Places after = FindPlaces();
+    if (std::abs(after.gdi - before.gdi) > kTolerance) {
+        return "GDI objects stayed: " + std::to_string(after.gdi - before.gdi) + " places";
+    }
+    if (std::abs(after.user - before.user) > kTolerance) {
+        return "USER objects stayed: " + std::to_string(after.user - before.user) + " places";
+    }
+    return {};
+}
+
+} // namespace vorn::test
