@@ -82,9 +82,9 @@ constexpr PlatformServices kPlatform = {
 
 } // namespace
 
-bool AttachModule(HINSTANCE handle) {
+bool AttachModule(HINSTANCE newModule) {
     if (!library.registered) {
-        module = handle;
+        module = newModule;
     }
     return Attach(library, kPlatform);
 }

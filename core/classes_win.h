@@ -8,7 +8,7 @@ namespace vorn {
 
 // Loads the names and registers the classes for this module; the answer is whether the module can
 // be used.
-bool AttachModule(HINSTANCE module);
+bool AttachModule(HINSTANCE newModule);
 
 // Undoes a successful AttachModule; does nothing after a failed one or none.
 void DetachModule();

@@ -40,10 +40,12 @@ step() {
   say "$title: done in $((SECONDS - started)) s."
 }
 
-# cmake_build PRESET TARGET...: configures when needed and builds.
+# cmake_build PRESET TESTING TARGET...: configures when needed, with the tests (ON) or without (OFF),
+# and builds.
 cmake_build() {
-  local preset=$1
-  shift
+  local preset=$1 testing=$2
+  shift 2
   cd "$root" || return 1
-  cmake --preset "$preset" && cmake --build --preset "$preset" --parallel "$jobs" --target "$@"
+  cmake --preset "$preset" "-DBUILD_TESTING=$testing" &&
+    cmake --build --preset "$preset" --parallel "$jobs" --target "$@"
 }

@@ -1,5 +1,6 @@
 # What each command needs from the system's package manager, and how it gets there.
 # shellcheck shell=bash
+# shellcheck disable=SC2034 # ensure reads the groups by their names
 
 # Each group: the packages, and why they are needed.
 native_packages=(cmake ninja-build g++ python3)

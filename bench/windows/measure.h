@@ -1,0 +1,37 @@
+// Measuring: ours beside theirs in one process, interleaved, several rounds, medians.
+#pragma once
+
+#include <windows.h>
+#include <functional>
+
+namespace bench {
+
+// Prints one row: microseconds a call of ours and of theirs, and ours / theirs. The two take turns,
+// `calls` calls at a time.
+void Compare(const char* what, int calls, const std::function<void()>& ours,
+             const std::function<void()>& theirs);
+
+// Prints one row of the cost an item at 1,000, 10,000 and 100,000 items, relative to the first.
+// `run` does the whole job for a number of items.
+void Growth(const char* what, const std::function<void(int items)>& run);
+
+// A visible top-level window to put controls on.
+HWND Host();
+
+// A control on the host.
+HWND Create(const char* className, DWORD style);
+
+// An exported function of VORN32.dll; the program ends when there is none.
+FARPROC Exported(const char* name);
+
+// The same with its type.
+template <class Function>
+Function* Ours(const char* name) {
+    return reinterpret_cast<Function*>(reinterpret_cast<void*>(Exported(name)));
+}
+
+// What each control measures.
+void MeasureLoading();
+void MeasurePercentBar();
+
+} // namespace bench
