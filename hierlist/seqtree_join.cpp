@@ -40,33 +40,39 @@ void Adopt(OlbSeqNode* node, const Counted& left, OlbSeqNode* right) {
 // Joins trees of which the left one is more than one level the higher: `middle` goes down its right
 // edge to where a subtree is about as high as the right tree, and takes both for its own.
 OlbSeqNode* JoinDownRight(Counted left, OlbSeqNode* middle, OlbSeqNode* right) {
+    const int enough = SeqHeight(right) + 1;
+    OlbSeqNode* edge = nullptr;
     SeqPath path;
-    while (SeqHeight(left.root) > SeqHeight(right) + 1) {
-        path.Push(left.root);
-        left.count -= left.root->leftCount + 1;
-        left.root = RightChild(left.root);
-    }
+    do {
+        edge = left.root;
+        path.Push(edge);
+        left.count -= edge->leftCount + 1;
+        left.root = RightChild(edge);
+    } while (SeqHeight(left.root) > enough);
     if (left.root == nullptr) {
-        middle->left = path.Bottom();
+        middle->left = edge;
     }
     Adopt(middle, left, right);
-    SetRightChild(path.Bottom(), middle);
+    SetRightChild(edge, middle);
     return RebalancePath(path);
 }
 
 // The same down the left edge of the right tree.
 OlbSeqNode* JoinDownLeft(const Counted& left, OlbSeqNode* middle, OlbSeqNode* right) {
+    const int enough = SeqHeight(left.root) + 1;
+    OlbSeqNode* edge = nullptr;
     SeqPath path;
-    while (SeqHeight(right) > SeqHeight(left.root) + 1) {
-        path.Push(right);
-        right->leftCount += left.count + 1;
-        right = LeftChild(right);
-    }
+    do {
+        edge = right;
+        path.Push(edge);
+        edge->leftCount += left.count + 1;
+        right = LeftChild(edge);
+    } while (SeqHeight(right) > enough);
     if (right == nullptr) {
-        middle->right = path.Bottom();
+        middle->right = edge;
     }
     Adopt(middle, left, right);
-    SetLeftChild(path.Bottom(), middle);
+    SetLeftChild(edge, middle);
     return RebalancePath(path);
 }
 
@@ -74,11 +80,12 @@ OlbSeqNode* JoinDownLeft(const Counted& left, OlbSeqNode* middle, OlbSeqNode* ri
 // are right when they were before; where a side is empty middle's own link is taken for its thread.
 Counted Join(const Counted& left, OlbSeqNode* middle, const Counted& right) {
     const std::uint32_t count = left.count + 1 + right.count;
-    const int lean = SeqHeight(right.root) - SeqHeight(left.root);
-    if (lean < -1) {
+    const int leftHeight = SeqHeight(left.root);
+    const int rightHeight = SeqHeight(right.root);
+    if (leftHeight > rightHeight + 1) {
         return {JoinDownRight(left, middle, right.root), count};
     }
-    if (lean > 1) {
+    if (rightHeight > leftHeight + 1) {
         return {JoinDownLeft(left, middle, right.root), count};
     }
     Adopt(middle, left, right.root);
