@@ -47,7 +47,8 @@ OlbSeqNode* SeqNext(OlbSeqNode* node);
 OlbSeqNode* SeqPrevious(OlbSeqNode* node);
 
 // The position of a node in the tree that it is in, and that tree's root. Neither asks which tree
-// that should be.
+// that should be. Without links to parents each step up goes over the foot of a subtree, so that
+// the cost is bounded by half the square of the height, not by the height.
 std::uint32_t SeqPosition(const OlbSeqNode* node);
 OlbSeqNode* SeqRoot(OlbSeqNode* node);
 
