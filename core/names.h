@@ -9,15 +9,17 @@ constexpr std::size_t kMonths = 12;
 constexpr std::size_t kMonthNameSize = 16;
 constexpr std::size_t kShortMonthNameSize = 4;
 constexpr std::size_t kWeekdayInitialsSize = 8;
+constexpr std::size_t kHostMonthNameSize = 64;
 
-// Filled when the library is attached and only read afterwards. Until then the months hold
-// placeholder texts.
+// Filled when the library is attached; hosts may then replace the long month names and the weekday
+// initials. Before that the months hold placeholder texts.
 struct NameTables {
     char longMonths[kMonths][kMonthNameSize];
     char shortMonths[kMonths][kShortMonthNameSize];
-    const char* monthNames[kMonths];            // entry i points at longMonths[i]; January is 0
-    const char* shortMonthNames[kMonths];       // entry i points at shortMonths[i]
-    char weekdayInitials[kWeekdayInitialsSize]; // one letter a day, Sunday first
+    const char* monthNames[kMonths];              // entry i points at longMonths[i]; January is 0
+    const char* shortMonthNames[kMonths];         // entry i points at shortMonths[i]
+    char weekdayInitials[kWeekdayInitialsSize];   // one letter a day, Sunday first
+    char hostMonths[kMonths][kHostMonthNameSize]; // what monthNames points at from then on
 };
 
 // Tables as they are before any loading: "----*----1---01" and "001" to "----*----1---12" and
