@@ -7,8 +7,6 @@ namespace {
 
 constexpr std::uint16_t kChangeYear = 1752;
 constexpr std::uint16_t kChangeMonth = 9;
-constexpr std::uint16_t kLastJulianDay = 2;
-constexpr std::uint16_t kFirstGregorianDay = 14;
 constexpr std::int32_t kSkippedDays = 11;
 
 // What the Gregorian count of leap years lacks at the change: the Julian leap days of the years

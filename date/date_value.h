@@ -22,6 +22,10 @@ static_assert(sizeof(Date) == 6 && offsetof(Date, day) == 2 && offsetof(Date, ye
 
 constexpr std::uint16_t kLastYear = 9999;
 
+// The days on both sides of the gap in September 1752.
+constexpr std::uint16_t kLastJulianDay = 2;
+constexpr std::uint16_t kFirstGregorianDay = 14;
+
 using MonthLengths = std::array<std::uint16_t, 12>;
 
 // Every fourth year is a leap year up to 1752; from 1753 on, full centuries only when they divide
