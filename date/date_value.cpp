@@ -9,8 +9,8 @@ constexpr std::uint16_t kChangeYear = 1752;
 constexpr std::uint16_t kChangeMonth = 9;
 constexpr std::int32_t kSkippedDays = 11;
 
-// What the Gregorian count of leap years lacks at the change: the Julian leap days of the years
-// 100 to 1700 that it does not have, less those of 400, 800, 1200 and 1600 that both have.
+// The leap days before the change that the Gregorian rule would not have had: those of the
+// centuries 100 to 1700 but for 400, 800, 1200 and 1600.
 constexpr std::int32_t kJulianSurplus = 13;
 
 constexpr std::uint16_t kFebruary = 2;
@@ -32,7 +32,7 @@ bool IsAfterTheChange(std::uint16_t month, std::uint16_t day, std::uint16_t year
 // Day 0 is a Saturday.
 std::uint16_t WeekdayOf(std::int32_t dayNumber) {
     const std::int32_t remainder = dayNumber % 7; // -6 to 6
-    return static_cast<std::uint16_t>((remainder + 7 + 6) % 7);
+    return static_cast<std::uint16_t>((remainder + 6) % 7);
 }
 
 std::int32_t Difference(std::uint32_t from, std::uint32_t to) {
