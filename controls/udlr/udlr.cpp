@@ -67,8 +67,13 @@ bool ReleasedElsewhere(const State& state, const Event& event) {
     return state.captured && state.captureTaken && !event.buttonHeld;
 }
 
-Actions CaptureTaken(State& state, const Event& event) {
+// The capture that nobody has afterwards is the system's doing, which takes it from a pad that is
+// being disabled: that one goes on.
+Actions CaptureChanged(State& state, const Event& event) {
     Actions actions;
+    if (event.captureOwner != CaptureOwner::Other) {
+        return actions;
+    }
     state.captureTaken = state.captured;
     if (ReleasedElsewhere(state, event)) {
         AppendRest(actions, state);
@@ -156,8 +161,8 @@ Actions Step(State& state, const Event& event) {
         return Release(state);
     case EventKind::Timer:
         return Timer(state, event);
-    case EventKind::CaptureTaken:
-        return CaptureTaken(state, event);
+    case EventKind::CaptureChanged:
+        return CaptureChanged(state, event);
     case EventKind::Enable:
         return Enable(state, event);
     }

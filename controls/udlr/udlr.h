@@ -1,8 +1,8 @@
 // The four-way spin pad's geometry and behaviour: everything about it that needs no window.
 #pragma once
 
-#include "core/action_list.h"
 #include "core/geometry.h"
+#include "core/steps.h"
 
 #include <cstdint>
 
@@ -46,12 +46,12 @@ struct State {
 };
 
 enum class EventKind : std::uint8_t {
-    ButtonDown,   // at x, y
-    Move,         // at x, y
-    ButtonUp,     //
-    Timer,        // buttonHeld
-    CaptureTaken, // by another window, not by none; buttonHeld
-    Enable,       // enabled
+    ButtonDown,     // at x, y
+    Move,           // at x, y
+    ButtonUp,       //
+    Timer,          // buttonHeld
+    CaptureChanged, // to captureOwner; buttonHeld
+    Enable,         // enabled
 };
 
 struct Event {
@@ -59,6 +59,7 @@ struct Event {
     std::uint16_t x = 0;
     std::uint16_t y = 0;
     bool buttonHeld = false; // whether the mouse button is physically down
+    CaptureOwner captureOwner = CaptureOwner::Nobody;
     bool enabled = false;
 };
 

@@ -23,6 +23,7 @@ Event EventOf(const std::uint8_t* data) {
     event.y = static_cast<std::uint16_t>((data[2] & 0x80) != 0 ? data[2] << 8 : data[2] % 32);
     event.buttonHeld = (data[0] & 0x80) != 0;
     event.enabled = (data[0] & 0x40) != 0;
+    event.captureOwner = static_cast<vorn::CaptureOwner>(data[1] % 3);
     return event;
 }
 
@@ -35,7 +36,7 @@ void Perform(Timers& timers, const State& state, const Event& event, const Actio
     Require(!IsStale(state, action)); // nothing came between
     switch (action.kind) {
     case ActionKind::Notify:
-        Require(event.kind != EventKind::ButtonUp && event.kind != EventKind::CaptureTaken);
+        Require(event.kind != EventKind::ButtonUp && event.kind != EventKind::CaptureChanged);
         Require(state.captured && action.code == NotificationCode(state.direction));
         Require(action.code >= 100 && action.code <= 103);
         break;

@@ -121,7 +121,7 @@ List Tick(State& state, bool held = false) {
     return Do(state, {EventKind::Timer, 0, 0, held});
 }
 List TakeCapture(State& state, bool held) {
-    return Do(state, {EventKind::CaptureTaken, 0, 0, held});
+    return Do(state, {EventKind::CaptureChanged, 0, 0, held, CaptureOwner::Other});
 }
 
 // A press in the up triangle.
@@ -227,13 +227,13 @@ TEST(UdlrTimer, AtRestDoesNothing) {
 TEST(UdlrEnable, RepaintsAndLeavesARunningRepeat) {
     State state = Pressed();
     Tick(state);
-    EXPECT_EQ(Do(state, {EventKind::Enable, 0, 0, false, false}), List{{RepaintErased}});
+    EXPECT_EQ(Do(state, {.kind = EventKind::Enable, .enabled = false}), List{{RepaintErased}});
     EXPECT_TRUE(state.disabled);
     EXPECT_TRUE(state.captured);
     EXPECT_EQ(state.direction, Direction::Up) << "the picture stays";
     EXPECT_EQ(Tick(state), List{Notification(100)});
     EXPECT_EQ(Down(state, 14, 24)[1], Notification(102)) << "a disabled pad reacts";
-    EXPECT_EQ(Do(state, {EventKind::Enable, 0, 0, false, true}), List{{RepaintErased}});
+    EXPECT_EQ(Do(state, {.kind = EventKind::Enable, .enabled = true}), List{{RepaintErased}});
     EXPECT_FALSE(state.disabled);
 }
 
@@ -254,6 +254,15 @@ TEST(UdlrCapture, TakenWhileTheButtonIsHeldRepeatsUntilItComesUp) {
     EXPECT_EQ(Tick(state, false), (List{Kill(2), {Repaint}})) << "the release went elsewhere";
     EXPECT_EQ(state.timerPhase, 0u);
     EXPECT_EQ(Tick(state, true), List{});
+}
+
+TEST(UdlrCapture, GivenToNobodyOrToItselfChangesNothing) {
+    State state = Pressed();
+    for (const CaptureOwner owner : {CaptureOwner::Nobody, CaptureOwner::Self}) {
+        EXPECT_EQ(Do(state, {EventKind::CaptureChanged, 0, 0, false, owner}), List{});
+        EXPECT_TRUE(state.captured);
+    }
+    EXPECT_EQ(Tick(state, false), (List{Kill(1), Start(2), Notification(100)}));
 }
 
 TEST(UdlrCapture, TakenBetweenPressesIsNoConcern) {

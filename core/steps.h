@@ -1,9 +1,11 @@
-// What a step of a control's state machine answers: a few actions in order. The window half
-// performs them one by one; each may run host code, and the control may be gone after any of them.
+// What the state machines of controls share. A step takes a control's state over an event and
+// answers a few actions, which the window half performs one by one, in order; each may run host
+// code, and the control may be gone after any of them.
 #pragma once
 
 #include <array>
 #include <cstddef>
+#include <cstdint>
 
 namespace vorn {
 
@@ -22,5 +24,8 @@ constexpr void Append(ActionList<Action, Capacity>& list, const Action& action) 
     list.items[list.count] = action;
     ++list.count;
 }
+
+// Who has the mouse capture after it changed, as the control sees it that had it before.
+enum class CaptureOwner : std::uint8_t { Nobody, Self, Other };
 
 } // namespace vorn
