@@ -64,7 +64,7 @@ Actions Release(State& state) {
 // Once another window has the capture, the button's release is that window's to see: the pad then
 // looks for itself whether the button is still down.
 bool ReleasedElsewhere(const State& state, const Event& event) {
-    return state.captured && state.captureTaken && !event.buttonHeld;
+    return state.captureTaken && !event.buttonHeld;
 }
 
 // The capture that nobody has afterwards is the system's doing, which takes it from a pad that is

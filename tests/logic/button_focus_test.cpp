@@ -1,5 +1,5 @@
 // The picture button's part in moving the focus and the default look, and being enabled.
-#include "tests/logic/button_steps.h"
+#include "tests/support/button_steps.h"
 
 #include <string>
 

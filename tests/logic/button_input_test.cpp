@@ -1,5 +1,5 @@
 // How the picture button reacts to the mouse, its timers and the keyboard.
-#include "tests/logic/button_steps.h"
+#include "tests/support/button_steps.h"
 
 namespace vorn::button {
 namespace {
