@@ -61,8 +61,9 @@ Geometry LayOut(Size client) {
     const std::int32_t knobSide = side - kKnobLoss;
     const std::int32_t left = (client.width - side) / 2 + kKnobLeft;
     const std::int32_t radius = knobSide / 2;
-    const std::int32_t button = static_cast<std::int32_t>(
-        std::min<std::int64_t>(kLargestButton, std::int64_t{radius} * 7 / 12));
+    const std::int64_t share = std::int64_t{radius} * 7 / 12;
+    const std::int32_t button =
+        static_cast<std::int32_t>(std::clamp<std::int64_t>(share, 0, kLargestButton));
     const std::int32_t bottom = client.height - kButtonMargin;
     const std::int32_t right = client.width - kButtonMargin;
     return {

@@ -42,7 +42,7 @@ struct Geometry {
     Rect knob; // what the face covers; empty or turned inside out in a client below 17 pixels
     Point center;
     std::int32_t radius;
-    Rect leftButton; // the corner buttons; turned inside out likewise
+    Rect leftButton; // the corner buttons; empty in a client below 20 pixels
     Rect rightButton;
 };
 

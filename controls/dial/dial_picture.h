@@ -25,7 +25,7 @@ enum class CornerPen : std::uint8_t { Highlight, Shadow, Text, GrayText };
 
 // The last point is not painted.
 struct CornerLine {
-    CornerPen pen;
+    CornerPen pen = CornerPen::Highlight;
     Point from;
     Point to;
 
