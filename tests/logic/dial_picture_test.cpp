@@ -67,6 +67,15 @@ TEST(DialMark, LowersAStartAboveTheEnd) {
     EXPECT_EQ(MarkAngle(state), 300.0);
 }
 
+TEST(DialMark, HasNoFullTurn) {
+    // 1 / 49 x 49 - 1 is a little below 0 in floating point, and with a turn more exactly 360.
+    State state = At(49, 0);
+    state.turnStart = -1;
+    state.turnEnd = 0;
+    state.maximum = 49;
+    EXPECT_EQ(MarkAngle(state), 0.0);
+}
+
 // The mark's angle as a fraction of whole numbers: (start x range + (end - start) x position) over
 // the range, brought within a turn before it is divided.
 double ExactAngle(const State& state) {
@@ -172,6 +181,13 @@ TEST(DialMark, IsAnEllipseOnTheOrbit) {
     EXPECT_EQ(MarkRectangle(south, geometry), (Rect{49, 84, 51, 86}));
     // Centre (200, 196), radius 192, orbit 184, size 18.
     EXPECT_EQ(MarkRectangle(At(50), LayOut({400, 400})), (Rect{191, 3, 209, 21}));
+}
+
+TEST(DialMark, IsExactBelowTheCentreOfATinyClientToo) {
+    // Centre (0, -4), radius -8, orbit -10: truncation alone would put the row -13.5 to -13.
+    State south = At(0, 0);
+    south.turnStart = -90;
+    EXPECT_EQ(MarkRectangle(south, LayOut({0, 0})), (Rect{-1, -15, 1, -13}));
 }
 
 TEST(DialMark, LiesOnTheCircleForEveryPosition) {
