@@ -5,7 +5,8 @@
 
 namespace vorn {
 
-// Returns `size` zeroed bytes, or null when there is no memory. The context is ignored. A block is
+// Returns `size` zeroed bytes, or null when there is no memory; also a block of no bytes has an
+// address of its own. The context is ignored. A block is
 // global memory, movable and locked while few are out and fixed beyond that: a process has only
 // some 65,000 movable handles, which it shares with its clipboard and everything else.
 void* AllocBlock(void* context, std::uint16_t size);

@@ -62,6 +62,9 @@ void FreeBlock(void* /*context*/, void* block) {
         return;
     }
     HGLOBAL memory = GlobalHandle(block);
+    if (memory == nullptr) {
+        return; // none of ours
+    }
     // The handle of a fixed block is its address.
     if (memory != block) {
         InterlockedDecrement(&movableBlocks);

@@ -10,7 +10,8 @@ namespace vorn {
 // From its construction to the end of its scope a WM_PAINT is answered: drawing goes to a bitmap as
 // large as the part to repaint, in client coordinates, and is copied to the screen at the end. When
 // there is no memory for the bitmap, drawing goes to the screen. The window may be destroyed
-// in between.
+// in between, and already by its construction: the window is asked to paint its frame and erase its
+// background then, and a host that subclassed it may do anything.
 class OffscreenPaint {
 public:
     explicit OffscreenPaint(HWND window);
@@ -54,7 +55,9 @@ LRESULT PaintWindow(HWND window, Draw draw) {
     record->paint.painting = true;
     {
         OffscreenPaint offscreen(window);
-        draw(window, offscreen);
+        if (RecordOf<Record>(window) != nullptr) {
+            draw(window, offscreen);
+        }
     }
     record = RecordOf<Record>(window);
     if (record != nullptr) {

@@ -12,14 +12,16 @@ bool IsOurs(HWND window) {
     return GetWindowThreadProcessId(window, &process) != 0 && process == GetCurrentProcessId();
 }
 
+// The class itself, not one of the same name that the host keeps to itself.
 bool IsOfClass(HWND window, ControlClass id) {
-    return static_cast<ATOM>(GetClassLongA(window, GCW_ATOM)) == ClassAtom(id);
+    return static_cast<ATOM>(GetClassLongA(window, GCW_ATOM)) == ClassAtom(id) &&
+           reinterpret_cast<HINSTANCE>(GetClassLongPtrA(window, GCLP_HMODULE)) == Module();
 }
 
 } // namespace
 
-// A host's own class on top of one of ours keeps the extra bytes as they are, but its window is
-// known to be ours only by a property, which no other window carries.
+// Of a host's own class on top of one of ours nobody knows what its extra bytes hold; there the
+// record is a property of the window, named after the class.
 void StoreRecord(HWND window, ControlClass id, void* record) {
     const ClassDescription& description = Describe(id);
     if (IsOfClass(window, id)) {
@@ -47,7 +49,7 @@ void* AllocRecord(HWND window, ControlClass id, std::uint16_t size) {
     }
     void* record = AllocBlock(nullptr, size);
     StoreRecord(window, id, record);
-    // Nowhere to keep it: a host's class of our name with fewer extra bytes, or no property.
+    // There was nowhere to keep it.
     if (FetchRecord(window, id) != record) {
         FreeBlock(nullptr, record);
         return nullptr;

@@ -1,13 +1,11 @@
 // The version functions, answered from the library's version resource.
-#include "core/platform_win.h"
+#include "core/version_win.h"
+
 #include "core/version_number.h"
 
 #include <vorn32.h>
 
 namespace {
-
-// Found among the process's modules, not by a path.
-constexpr char kFileName[] = "VORN32.DLL";
 
 DWORD PackedVersion(const void* versionInfo) {
     void* value = nullptr;
@@ -22,9 +20,11 @@ DWORD PackedVersion(const void* versionInfo) {
 
 } // namespace
 
-extern "C" DWORD WINAPI GetLongVersion() {
+namespace vorn {
+
+DWORD VersionOfFile(const char* file) {
     DWORD handle = 0;
-    const DWORD size = GetFileVersionInfoSizeA(kFileName, &handle);
+    const DWORD size = GetFileVersionInfoSizeA(file, &handle);
     if (size == 0) {
         return 0;
     }
@@ -35,13 +35,20 @@ extern "C" DWORD WINAPI GetLongVersion() {
     DWORD version = 0;
     void* versionInfo = GlobalLock(memory);
     if (versionInfo != nullptr) {
-        if (GetFileVersionInfoA(kFileName, handle, size, versionInfo)) {
+        if (GetFileVersionInfoA(file, handle, size, versionInfo)) {
             version = PackedVersion(versionInfo);
         }
         GlobalUnlock(memory);
     }
     GlobalFree(memory);
     return version;
+}
+
+} // namespace vorn
+
+// Found among the process's modules, not by a path.
+extern "C" DWORD WINAPI GetLongVersion() {
+    return vorn::VersionOfFile("VORN32.DLL");
 }
 
 extern "C" DWORD WINAPI GetVORNVersion() {

@@ -19,7 +19,7 @@ struct Record {
 // The bar inside the window's client area, by the window's current fonts.
 Rect MeasureBar(HWND window, const Record& record);
 
-// Draws what the paint's area needs. Runs host code.
+// Draws the control. Runs host code.
 void Draw(HWND window, const OffscreenPaint& offscreen);
 
 } // namespace vorn::percentbar

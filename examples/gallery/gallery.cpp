@@ -80,7 +80,9 @@ LRESULT CALLBACK FrameProc(HWND window, UINT message, WPARAM wParam, LPARAM lPar
         if (LOWORD(wParam) == kListId && HIWORD(wParam) == LBN_SELCHANGE) {
             const LRESULT selected =
                 SendMessageA(reinterpret_cast<HWND>(lParam), LB_GETCURSEL, 0, 0);
-            Show(window, static_cast<std::size_t>(selected));
+            if (selected != LB_ERR) {
+                Show(window, static_cast<std::size_t>(selected));
+            }
         }
         return 0;
     case WM_DESTROY:

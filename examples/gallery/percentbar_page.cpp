@@ -45,6 +45,7 @@ void AddColors(HWND page) {
     HWND green = AddBar(page, VPBS_RAISED | VPBS_PERCENT, {350, 305, 590, 335}, 80);
     pbSetColor(green, VORN_COLOR_FACE, RGB(20, 40, 20));
     pbSetColor(green, VORN_COLOR_FILL, RGB(120, 220, 120));
+    // For the life of the program, however often the page is made.
     static HFONT font =
         CreateFontA(-19, 0, 0, 0, FW_BOLD, 0, 0, 0, ANSI_CHARSET, 0, 0, 0, 0, "Arial");
     pbSetPercentFont(green, font);

@@ -7,8 +7,9 @@
  *
  * A parent may choose the colours around the bar: the control sends it WM_CTLCOLORDLG (device
  * context, control) at every paint, uses the brush that comes back, takes the context's text
- * colour for the scale and its background colour for the outer edge of the frames. An answer of 0
- * leaves the control's own background.
+ * colour for the scale and its background colour for the outer edge of the frames. A parent that
+ * answers 0 and leaves the context alone leaves the control its own colours; DefWindowProc does
+ * not: it answers a brush and sets colours.
  *
  * Every function returns 0 when the window is no percent bar. "Redraws" means at once; the result
  * of such a function is that of RedrawWindow.
@@ -65,7 +66,8 @@ VORNAPI LONG WINAPI pbGetProgress(HWND window);
 /*
  * Sets a colour: VORN_COLOR_HIGHLIGHT and VORN_COLOR_SHADOW of the frames, VORN_COLOR_FACE the
  * empty part of the bar (and the percentage over the filled part), VORN_COLOR_TEXT the scale,
- * VORN_COLOR_BACKGROUND the control outside the bar, VORN_COLOR_FILL the filled part (and the
+ * VORN_COLOR_BACKGROUND the control outside the bar (these two when the parent leaves them, see
+ * above), VORN_COLOR_FILL the filled part (and the
  * percentage over the empty part). Any other slot changes nothing. Redraws the control.
  */
 VORNAPI BOOL WINAPI pbSetColor(HWND window, int slot, COLORREF colorCode);

@@ -51,6 +51,11 @@ def protections():
     return [f"lacks {flag}" for flag in sorted(needed) if flag not in headers]
 
 
+def relocations():
+    # Without them the loader cannot move the DLL, whatever the flag says.
+    return [] if ".reloc" in objdump("-h") else ["lacks relocations"]
+
+
 def sections():
     for line in objdump("-h").splitlines():
         if "CODE" in line and "READONLY" not in line:
@@ -63,4 +68,4 @@ def size():
     return [f"has {actual} bytes"] if triple.startswith("i686") and actual > MOST_BYTES else []
 
 
-finish([*imports(), *exports(), *protections(), *sections(), *size()])
+finish([*imports(), *exports(), *protections(), *relocations(), *sections(), *size()])

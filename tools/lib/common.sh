@@ -14,8 +14,9 @@ die() {
 
 # One command at a time works in this clone's build folder; another clone has its own.
 lock_build_folder() {
-  mkdir -p "$build" 2>/dev/null || die "cannot create $build: check the disk's space and permissions."
-  exec 9>"$build/.lock" || die "cannot write in $build: check the disk's space and permissions."
+  mkdir -p "$build" 2>/dev/null && : 2>/dev/null >"$build/.lock" ||
+    die "cannot write in $build: check the disk's space and the folder's permissions."
+  exec 9>"$build/.lock"
   if ! flock -n 9; then
     say "another command is at work in $build; waiting for it to end."
     flock 9
@@ -33,19 +34,17 @@ step() {
   shift 2
   mkdir -p "${log%/*}"
   say "$title ..."
-  if ! "$@" </dev/null >"$log" 2>&1 9>&-; then
+  if ! "$@" </dev/null >"$log" 2>&1 8>&- 9>&-; then
     tail -n 40 "$log" >&2
     die "$title failed; the whole output is in $log."
   fi
   say "$title: done in $((SECONDS - started)) s."
 }
 
-# cmake_build PRESET TESTING TARGET...: configures when needed, with the tests (ON) or without (OFF),
-# and builds.
+# cmake_build PRESET TARGET...: configures when needed and builds.
 cmake_build() {
-  local preset=$1 testing=$2
-  shift 2
+  local preset=$1
+  shift
   cd "$root" || return 1
-  cmake --preset "$preset" "-DBUILD_TESTING=$testing" &&
-    cmake --build --preset "$preset" --parallel "$jobs" --target "$@"
+  cmake --preset "$preset" && cmake --build --preset "$preset" --parallel "$jobs" --target "$@"
 }

@@ -13,7 +13,7 @@ wine32_packages=(wine32:i386)
 wine32_reason="to run 32-bit Windows programs"
 picture_packages=(netpbm)
 picture_reason="to write pictures as PNG"
-test_packages=(clang clang-format clang-tidy libclang-rt-14-dev googletest shellcheck git binutils)
+test_packages=(clang clang-format clang-tidy libclang-rt-dev googletest shellcheck git binutils)
 test_reason="to test and to check the source"
 bench_packages=(libbenchmark-dev)
 bench_reason="to measure"
@@ -30,21 +30,22 @@ apt() {
   apt-get -o DPkg::Lock::Timeout=600 -o Acquire::Retries=2 "$@"
 }
 
-# The 32-bit and the 64-bit Wine share libraries, whose versions must agree: where the machine's
-# release has more than one source, all come from the release itself.
-install_packages() {
-  local release
+# install LOG PACKAGE...: reads the lists and installs. One clone at a time, so that none reads lists
+# that another is writing. The update's own exit status says little: one index that does not match
+# fails it though all that is needed came; the installation after it is what counts. The 32-bit and
+# the 64-bit Wine share libraries, whose versions must agree: where the machine's release has more
+# than one source, all come from the release itself.
+install() {
+  local log=$1 release
+  shift
   release=$(. /etc/os-release && printf '%s' "${VERSION_CODENAME:-}")
-  DEBIAN_FRONTEND=noninteractive apt install -y --no-install-recommends ${release:+-t "$release"} "$@"
-}
-
-# The update's own exit status says little: one index that does not match fails it though all that
-# is needed came. The installation after it is what counts.
-update_package_lists() {
-  [ -n "${package_lists_updated:-}" ] && return
-  package_lists_updated=1
   mkdir -p "$build/logs"
-  apt update >"$build/logs/apt-update.log" 2>&1 || true
+  (
+    flock 7
+    apt update
+    DEBIAN_FRONTEND=noninteractive \
+      apt install -y --no-install-recommends ${release:+-t "$release"} "$@"
+  ) 7>/tmp/vorn32-packages.lock >"$build/logs/$log" 2>&1
 }
 
 # ensure GROUP...: installs what is missing of the groups. Fails with a sentence when it cannot.
@@ -63,8 +64,7 @@ ensure() {
     die "this machine has no apt-get; install what answers to these Debian packages: ${missing[*]}"
   [ "$(id -u)" -eq 0 ] ||
     die "packages are missing and only root can install them; run: sudo apt-get install ${missing[*]}"
-  update_package_lists
-  if ! install_packages "${missing[@]}" >"$build/logs/apt-install.log" 2>&1; then
+  if ! install apt-install.log "${missing[@]}"; then
     tail -n 5 "$build/logs/apt-install.log" >&2
     die "the packages could not be installed (see $build/logs/apt-install.log); check the network, then run this again."
   fi
@@ -73,10 +73,10 @@ ensure() {
 # Answers whether 32-bit Windows programs can run here, after trying to make it so.
 ensure_wine32() {
   [ -z "$(missing_of "${wine32_packages[@]}")" ] && return 0
-  command -v apt-get >/dev/null && [ "$(id -u)" -eq 0 ] || return 1
+  if ! command -v apt-get >/dev/null || [ "$(id -u)" -ne 0 ]; then
+    say "the 32-bit Wine is missing and only root can install it: dpkg --add-architecture i386, apt-get update, apt-get install ${wine32_packages[*]}"
+    return 1
+  fi
   say "installing ${wine32_reason}: ${wine32_packages[*]}"
-  dpkg --add-architecture i386 || return 1
-  package_lists_updated=
-  update_package_lists
-  install_packages "${wine32_packages[@]}" >"$build/logs/apt-install-wine32.log" 2>&1
+  dpkg --add-architecture i386 && install apt-install-wine32.log "${wine32_packages[@]}"
 }

@@ -38,16 +38,26 @@ fill_wine_prefix() {
   cksum <"${BASH_SOURCE[0]}" >"$WINEPREFIX/complete"
 }
 
-# Makes the prefix once, and again when this file has changed since.
-prepare_wine_prefix() {
-  command -v wine >/dev/null || die "Wine is not installed; run tools/test or tools/gallery, which install it."
-  [ "$(cat "$WINEPREFIX/complete" 2>/dev/null)" = "$(cksum <"${BASH_SOURCE[0]}")" ] && return
-  step "preparing a Wine prefix in build/" "$build/logs/wine-prefix.log" fill_wine_prefix
+prefix_is_complete() {
+  [ "$(cat "$WINEPREFIX/complete" 2>/dev/null)" = "$(cksum <"${BASH_SOURCE[0]}")" ]
 }
 
-# Ends what Wine left running in this clone's prefix, and the virtual display when we started it.
+# Makes the prefix once, and again when this file has changed since; then holds it (descriptor 8)
+# against those who would make it anew or end its programs while we use it.
+use_wine_prefix() {
+  command -v wine >/dev/null || die "Wine is not installed; run tools/test or tools/gallery, which install it."
+  exec 8>"$build/.wine"
+  if ! prefix_is_complete; then
+    flock -x 8
+    prefix_is_complete || step "preparing a Wine prefix in build/" "$build/logs/wine-prefix.log" fill_wine_prefix
+  fi
+  flock -s 8
+}
+
+# Ends what Wine left running in this clone's prefix when nobody else uses it, and the virtual display
+# when we started it.
 end_wine() {
-  command -v wineserver >/dev/null && [ -d "$WINEPREFIX" ] && wineserver -k 2>/dev/null
+  flock -n -x 8 2>/dev/null && wineserver -k 2>/dev/null
   [ -z "${display_pid:-}" ] || kill "$display_pid" 2>/dev/null
   display_pid=
 }
@@ -56,8 +66,8 @@ end_wine() {
 start_virtual_display() {
   command -v Xvfb >/dev/null || die "Xvfb is not installed; run tools/test or tools/gallery, which install it."
   local number_file number
-  number_file=$(mktemp)
-  Xvfb -displayfd 3 -screen 0 1280x1024x24 -nolisten tcp 3>"$number_file" >/dev/null 2>&1 9>&- &
+  number_file=$(mktemp "$build/display.XXXXXX") || die "cannot write in $build: check the disk's space."
+  Xvfb -displayfd 3 -screen 0 1280x1024x24 -nolisten tcp 3>"$number_file" >/dev/null 2>&1 8>&- 9>&- &
   display_pid=$!
   for _ in $(seq 100); do
     number=$(cat "$number_file")

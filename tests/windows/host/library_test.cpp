@@ -76,6 +76,19 @@ TEST(Classes, MakeWindowsForAnyModuleOfTheProcess) {
     }
 }
 
+TEST(Strings, AreMonthsInitialsAndShortMonths) {
+    const char* expected[] = {
+        "January", "February", "March",    "April",   "May", "June", "July", "August", "September",
+        "October", "November", "December", "SMTWTFS", "Jan", "Feb",  "Mar",  "Apr",    "May",
+        "Jun",     "Jul",      "Aug",      "Sep",     "Oct", "Nov",  "Dec"};
+    UINT id = 1;
+    for (const char* text : expected) {
+        char loaded[40] = "";
+        LoadStringA(GetModuleHandleA("VORN32.DLL"), id++, loaded, sizeof loaded);
+        EXPECT_STREQ(loaded, text);
+    }
+}
+
 TEST(Version, IsPackedFromTheVersionResource) {
     HRSRC resource = FindResourceA(GetModuleHandleA("VORN32.DLL"), MAKEINTRESOURCEA(1),
                                    reinterpret_cast<LPCSTR>(RT_VERSION));

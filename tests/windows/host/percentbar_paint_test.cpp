@@ -132,6 +132,10 @@ TEST_F(PercentBarPaint, WritesThePercentageInItsOwnFont) {
     pbSetPercentFont(bar, font);
     EXPECT_EQ(Difference(BarWithPercentage(120, 24, 54, "45%", font), PixelsOf(bar)), "");
     pbSetPercentFont(bar, nullptr);
+    SendMessageA(bar, VPBM_SETPERCENTFONT, reinterpret_cast<WPARAM>(font), 0);
+    EXPECT_EQ(Difference(BarWithPercentage(120, 24, 54, "45%", font), PixelsOf(bar)), "")
+        << "by message";
+    pbSetPercentFont(bar, nullptr);
     HFONT system = static_cast<HFONT>(GetStockObject(SYSTEM_FONT));
     EXPECT_EQ(Difference(BarWithPercentage(120, 24, 54, "45%", system), PixelsOf(bar)), "");
     DeleteObject(font);
@@ -200,12 +204,11 @@ TEST_F(PercentBarPaint, HasTicksInsideTheBar) {
     }
 }
 
-TEST_F(PercentBarPaint, HasAScaleUnderTheBar) {
-    HWND bar = Create(VPBS_SCALETEXT, 300, 60);
-    pbSetProgress(bar, 25);
-    TEXTMETRICA metrics{};
-    const Pixels expected = Drawing(300, 60, kBackground, [&](HDC context) {
-        SelectObject(context, GetStockObject(SYSTEM_FONT));
+// A quarter full bar with its scale, as they must stand.
+Pixels BarWithScale(HFONT font) {
+    return Drawing(300, 60, kBackground, [&](HDC context) {
+        TEXTMETRICA metrics{};
+        SelectObject(context, font);
         GetTextMetricsA(context, &metrics);
         const int left = static_cast<int>(metrics.tmMaxCharWidth);
         const int right = 300 - left;
@@ -222,9 +225,37 @@ TEST_F(PercentBarPaint, HasAScaleUnderTheBar) {
             TextOutA(context, left + value * (right - left) / 100 - static_cast<int>(size.cx) / 2,
                      bottom + 4, label.c_str(), static_cast<int>(label.size()));
         }
+        SelectObject(context, GetStockObject(SYSTEM_FONT));
     });
+}
+
+TEST_F(PercentBarPaint, HasAScaleUnderTheBar) {
+    HWND bar = Create(VPBS_SCALETEXT, 300, 60);
+    pbSetProgress(bar, 25);
+    const Pixels expected = BarWithScale(static_cast<HFONT>(GetStockObject(SYSTEM_FONT)));
     EXPECT_EQ(Difference(expected, PixelsOf(bar)), "");
     EXPECT_GT(PixelsOf(bar).Count({0, 0, 300, 60}, kText), 50) << "the labels can be seen";
+}
+
+TEST_F(PercentBarPaint, HasTheScaleInItsOwnFont) {
+    HFONT font =
+        CreateFontA(12, 0, 0, 0, FW_NORMAL, 0, 0, 0, 0, 0, 0, NONANTIALIASED_QUALITY, 0, "Arial");
+    HWND bar = Create(VPBS_SCALETEXT, 300, 60);
+    SendMessageA(bar, WM_SETFONT, reinterpret_cast<WPARAM>(font), TRUE);
+    // By the bar alone: its rectangle follows the font as well.
+    pbSetProgress(bar, 25);
+    EXPECT_EQ(Difference(BarWithScale(font), PixelsOf(bar)), "");
+    DestroyWindow(bar);
+    DeleteObject(font);
+}
+
+TEST_F(PercentBarPaint, HasNoFrameOfTheSystems) {
+    HWND bar = CreateWindowExA(WS_EX_CLIENTEDGE, VORN_PERCENTBAR_CLASS, "",
+                               WS_CHILD | WS_VISIBLE | WS_BORDER, 10, 10, 60, 20, host.window(),
+                               nullptr, GetModuleHandleA(nullptr), nullptr);
+    pbSetColor(bar, VORN_COLOR_FACE, kBar);
+    RedrawWindow(bar, nullptr, nullptr, RDW_INVALIDATE | RDW_FRAME | RDW_UPDATENOW);
+    EXPECT_EQ(Difference(Drawing(60, 20, kBar, [](HDC) {}), PixelsOf(bar)), "");
 }
 
 TEST_F(PercentBarPaint, TakesTheParentsBrushAndColors) {
@@ -259,18 +290,55 @@ TEST_F(PercentBarPaint, TakesTheParentsBrushAndColors) {
     DeleteObject(brush);
 }
 
-TEST_F(PercentBarPaint, FollowsTheSystemColors) {
-    HWND bar = Create(0, 60, 20);
-    pbSetColor(bar, VORN_COLOR_FACE, VORN_SYSCOLOR(COLOR_INFOBK));
-    EXPECT_EQ(PixelsOf(bar).At(30, 10), GetSysColor(COLOR_INFOBK));
-    const INT element = COLOR_INFOBK;
-    const COLORREF old = GetSysColor(COLOR_INFOBK);
-    const COLORREF changed = RGB(1, 2, 3);
-    SetSysColors(1, &element, &changed);
-    InvalidateRect(bar, nullptr, FALSE);
-    UpdateWindow(bar);
-    EXPECT_EQ(PixelsOf(bar).At(30, 10), changed);
-    SetSysColors(1, &element, &old);
+// System colours while a test changes them.
+class ChangedSystemColor {
+public:
+    ChangedSystemColor(int index, COLORREF color) : index_(index), old_(GetSysColor(index)) {
+        SetSysColors(1, &index_, &color);
+    }
+    ~ChangedSystemColor() { SetSysColors(1, &index_, &old_); }
+    ChangedSystemColor(const ChangedSystemColor&) = delete;
+    ChangedSystemColor& operator=(const ChangedSystemColor&) = delete;
+
+private:
+    INT index_;
+    COLORREF old_;
+};
+
+TEST_F(PercentBarPaint, EverySlotFollowsTheSystemColors) {
+    for (const int slot : {VORN_COLOR_HIGHLIGHT, VORN_COLOR_SHADOW, VORN_COLOR_FACE,
+                           VORN_COLOR_TEXT, VORN_COLOR_BACKGROUND, VORN_COLOR_FILL}) {
+        HWND bar = Create(VPBS_RAISED | VPBS_SCALETEXT, 300, 60);
+        pbSetProgress(bar, 50);
+        pbSetColor(bar, slot, VORN_SYSCOLOR(COLOR_INFOBK));
+        const RECT all = {0, 0, 300, 60};
+        EXPECT_GT(PixelsOf(bar).Count(all, GetSysColor(COLOR_INFOBK)), 30) << slot;
+        {
+            const ChangedSystemColor changed(COLOR_INFOBK, RGB(1, 2, 3));
+            InvalidateRect(bar, nullptr, FALSE);
+            UpdateWindow(bar);
+            EXPECT_GT(PixelsOf(bar).Count(all, RGB(1, 2, 3)), 30) << slot;
+        }
+        DestroyWindow(bar);
+    }
+}
+
+TEST_F(PercentBarPaint, FreshControlsHaveTheSystemsColors) {
+    const ChangedSystemColor window(COLOR_WINDOW, RGB(1, 0, 0));
+    const ChangedSystemColor text(COLOR_WINDOWTEXT, RGB(2, 0, 0));
+    const ChangedSystemColor light(COLOR_BTNHIGHLIGHT, RGB(3, 0, 0));
+    const ChangedSystemColor shadow(COLOR_BTNSHADOW, RGB(4, 0, 0));
+    const ChangedSystemColor face(COLOR_BTNFACE, RGB(5, 0, 0));
+    const ChangedSystemColor fill(COLOR_HIGHLIGHT, RGB(6, 0, 0));
+    HWND bar = host.Create(VORN_PERCENTBAR_CLASS, VPBS_RAISED | VPBS_SCALETEXT, 10, 10, 300, 60);
+    pbSetProgress(bar, 50);
+    const Pixels pixels = PixelsOf(bar);
+    EXPECT_EQ(pixels.At(200, 5), RGB(1, 0, 0));
+    EXPECT_GT(pixels.Count({0, 20, 300, 60}, RGB(2, 0, 0)), 50) << "the scale";
+    EXPECT_GT(pixels.Count({0, 0, 300, 30}, RGB(3, 0, 0)), 100) << "the frame's light side";
+    EXPECT_GT(pixels.Count({0, 0, 300, 60}, RGB(4, 0, 0)), 100) << "and its dark side";
+    EXPECT_EQ(pixels.At(0, 59), RGB(5, 0, 0));
+    EXPECT_EQ(pixels.At(100, 5), RGB(6, 0, 0));
 }
 
 TEST_F(PercentBarPaint, KeepsASmallBarWhenTheScaleHasNoRoom) {

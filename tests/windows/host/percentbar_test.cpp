@@ -65,6 +65,13 @@ TEST_F(PercentBar, HasTheDocumentedMessageNumbers) {
     }
 }
 
+TEST_F(PercentBar, ExportsTheFontFunctionUnderItsDecoratedNameToo) {
+    HMODULE module = GetModuleHandleA("VORN32.dll");
+    const FARPROC decorated = GetProcAddress(module, "_pbSetPercentFont@8");
+    ASSERT_NE(decorated, nullptr);
+    EXPECT_EQ(decorated, GetProcAddress(module, "pbSetPercentFont"));
+}
+
 TEST_F(PercentBar, KeepsTheStyleBitsInStep) {
     HWND bar = Create(VPBS_SUNKEN);
     pbSetBorderStyle(bar, VORN_BORDER_LINE);
@@ -121,6 +128,7 @@ TEST_F(PercentBar, IsClientAreaThroughout) {
     GetClientRect(bar, &client);
     EXPECT_EQ(client.right, 50);
     EXPECT_EQ(client.bottom, 20);
+    EXPECT_EQ(SendMessageA(bar, WM_NCPAINT, 1, 0), 0);
 }
 
 TEST_F(PercentBar, SuppressesBackgroundErasing) {
@@ -222,6 +230,22 @@ TEST_F(PercentBar, FunctionsAnswerZeroForOtherWindows) {
     ExpectAllFunctionsAnswerZero(host.Create(VORN_DIAL_CLASS, 0, 0, 0, 50, 50));
 }
 
+TEST_F(PercentBar, FunctionsAnswerZeroForAHostsOwnClassOfTheSameName) {
+    WNDCLASSA theirs{};
+    theirs.lpfnWndProc = DefWindowProcA;
+    theirs.cbWndExtra = 48;
+    theirs.hInstance = GetModuleHandleA(nullptr);
+    theirs.lpszClassName = VORN_PERCENTBAR_CLASS;
+    ASSERT_NE(RegisterClassA(&theirs), 0);
+    HWND window = Create(0);
+    for (int offset = 0; offset < 48; offset += 4) {
+        SetWindowLongA(window, offset, 0x5A5A5A5A);
+    }
+    ExpectAllFunctionsAnswerZero(window);
+    DestroyWindow(window);
+    EXPECT_TRUE(UnregisterClassA(VORN_PERCENTBAR_CLASS, GetModuleHandleA(nullptr)));
+}
+
 TEST_F(PercentBar, WorksInAClassOfTheHostsOwn) {
     WNDCLASSA ours{};
     GetClassInfoA(nullptr, VORN_PERCENTBAR_CLASS, &ours);
@@ -251,6 +275,33 @@ TEST_F(PercentBar, BearsAParentThatDestroysItWhilePainting) {
         pbSetProgress(created, 50);
         EXPECT_FALSE(IsWindow(created));
         ExpectAllFunctionsAnswerZero(created);
+    }
+}
+
+UINT destroyIn = 0;
+
+LRESULT CALLBACK DestroyWhenAsked(HWND window, UINT message, WPARAM wParam, LPARAM lParam) {
+    if (message == destroyIn) {
+        DestroyWindow(window);
+        return 0;
+    }
+    return CallWindowProcA(barProcedure, window, message, wParam, lParam);
+}
+
+// The messages that begin a paint reach a host's subclass before the control paints.
+TEST_F(PercentBar, BearsASubclassThatDestroysItAsAPaintBegins) {
+    for (const UINT message : {WM_NCPAINT, WM_ERASEBKGND, WM_STYLECHANGING, WM_STYLECHANGED}) {
+        HWND bar = Create(VPBS_SUNKEN | VPBS_PERCENT);
+        PumpMessages();
+        destroyIn = message;
+        barProcedure = reinterpret_cast<WNDPROC>(
+            SetWindowLongPtrA(bar, GWLP_WNDPROC, reinterpret_cast<LONG_PTR>(DestroyWhenAsked)));
+        pbEnableText(bar, TRUE);
+        if (IsWindow(bar)) {
+            RedrawWindow(bar, nullptr, nullptr,
+                         RDW_INVALIDATE | RDW_ERASE | RDW_FRAME | RDW_UPDATENOW);
+        }
+        EXPECT_FALSE(IsWindow(bar)) << message;
     }
 }
 

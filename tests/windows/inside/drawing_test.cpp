@@ -2,6 +2,7 @@
 #include "core/frames_win.h"
 #include "core/transparent_blit_win.h"
 #include "tests/support/frame_pictures.h"
+#include "tests/windows/support/objects.h"
 #include "tests/windows/support/pixels.h"
 
 #include <gtest/gtest.h>
@@ -150,6 +151,33 @@ TEST(TransparentBitmap, WorksWithOneBitAPixel) {
         EXPECT_EQ(painted[0], blackIsTransparent ? "b......." : "bk......");
         DeleteObject(bitmap);
     }
+}
+
+TEST(TransparentBitmap, SelectedElsewherePaintsNothing) {
+    HBITMAP bitmap = BitmapOf({"rr", "tk"}, kInks);
+    HDC elsewhere = CreateCompatibleDC(nullptr);
+    HGDIOBJ previous = SelectObject(elsewhere, bitmap);
+    EXPECT_EQ(Blitted(bitmap, {0, 0, 4, 4}, {0, 0}), Picture(6, "........"));
+    SelectObject(elsewhere, previous);
+    DeleteDC(elsewhere);
+    DeleteObject(bitmap);
+}
+
+TEST(Painters, LeaveNoObjectsBehind) {
+    HBITMAP bitmap = BitmapOf({"rr", "tk"}, kInks);
+    HDC screen = GetDC(nullptr);
+    HDC context = CreateCompatibleDC(screen);
+    EXPECT_EQ(test::ObjectsLeftBy([&] {
+                  DrawSunkenFrame(context, {0, 0, 9, 9}, {kA, kB, kC});
+                  DrawRaisedFrame(context, {0, 0, 9, 9}, {kA, kB, kC});
+                  DrawOutline(context, {0, 0, 9, 9}, kA);
+                  DrawTransparentBitmap(context, {0, 0, 9, 9}, bitmap, {0, 0}, kBack);
+                  DrawTransparentBitmap(context, {0, 0, 9, 9}, nullptr, {0, 0}, kBack);
+              }),
+              "");
+    DeleteDC(context);
+    ReleaseDC(nullptr, screen);
+    DeleteObject(bitmap);
 }
 
 TEST(TransparentBitmap, OfNullPaintsNothing) {

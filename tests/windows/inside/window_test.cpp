@@ -33,6 +33,14 @@ TEST(HostApp, IsAnAncestorOfTheClassWhateverTheCase) {
     }
 }
 
+TEST(HostApp, DoesNotCountTheWindowItself) {
+    HWND top = CreateAncestor("VornTestMiddle", nullptr);
+    HWND control = CreateAncestor("rwswnd", top);
+    EXPECT_FALSE(IsInHostApp(control));
+    DestroyWindow(top);
+    UnregisterClassA("rwswnd", GetModuleHandleA(nullptr));
+}
+
 TEST(HostApp, NeedsTheWholeName) {
     HWND top = CreateAncestor("rwswnd2", nullptr);
     HWND control = CreateAncestor("VornTestControl", top);

@@ -5,6 +5,7 @@
 #include <algorithm>
 #include <array>
 #include <cstdio>
+#include <gtest/gtest.h>
 #include <random>
 
 namespace vorn::test {
@@ -103,6 +104,7 @@ void SendRandomMessages(const std::function<HWND()>& create, std::uint32_t seed,
     for (int sent = 0; sent < count; ++sent) {
         if (!IsWindow(window)) {
             window = create();
+            ASSERT_NE(window, nullptr) << "nothing to send messages to";
         }
         const UINT message = random() % (WM_USER + 513);
         if (!IsLeftOut(message)) {
