@@ -1,6 +1,7 @@
 # VORN32.dll, its import library, and the same code as a static library for tests that look inside.
 enable_language(RC)
 include(ModuleDefinition)
+include(Pictures)
 
 set(dll_definition ${CMAKE_BINARY_DIR}/vorn32.def)
 set(import_definition ${CMAKE_BINARY_DIR}/vorn32_import.def)
@@ -14,7 +15,10 @@ set(system_libraries user32 gdi32 version mpr)
 # Linked as C: nothing of the C++ runtime may be needed.
 add_library(VORN32 MODULE ${window_sources} resources/vorn32.rc ${dll_definition})
 target_link_libraries(VORN32 PRIVATE vorn_logic vorn_library_settings ${system_libraries})
-target_include_directories(VORN32 PRIVATE include ${CMAKE_BINARY_DIR}/version)
+target_include_directories(VORN32 PRIVATE include ${CMAKE_BINARY_DIR}/version ${pictures})
+# The resource compiler does not tell which files it reads.
+set_source_files_properties(resources/vorn32.rc PROPERTIES OBJECT_DEPENDS "${picture_bitmaps}")
+add_dependencies(VORN32 vorn_pictures)
 target_compile_definitions(VORN32 PRIVATE VORN32_BUILD)
 set_target_properties(VORN32 PROPERTIES
   PREFIX "" LINKER_LANGUAGE C LIBRARY_OUTPUT_DIRECTORY ${CMAKE_BINARY_DIR})
@@ -44,6 +48,7 @@ target_link_libraries(vorn_host INTERFACE ${import_library})
 
 add_library(vorn_window_testing STATIC EXCLUDE_FROM_ALL ${window_sources})
 target_compile_definitions(vorn_window_testing PUBLIC VORN32_BUILD VORN_TEST_HOOKS)
-target_include_directories(vorn_window_testing PUBLIC include ${CMAKE_BINARY_DIR}/version)
+target_include_directories(vorn_window_testing PUBLIC include ${CMAKE_BINARY_DIR}/version
+                                                      ${pictures})
 target_link_libraries(vorn_window_testing PUBLIC vorn_logic ${system_libraries}
                                           PRIVATE vorn_library_settings)

@@ -30,8 +30,12 @@ void FreeBlock(void* /*context*/, void* block) {
     std::free(block);
 }
 
-std::uint32_t BlockCount() { return blocks; }
+std::uint32_t BlockCount() {
+    return blocks;
+}
 
-void FailAllocationsAfter(std::int32_t count) { allocationsLeft = count; }
+void FailAllocationsAfter(std::int32_t count) {
+    allocationsLeft = count;
+}
 
 } // namespace vorn
