@@ -80,7 +80,7 @@ std::int32_t AngleOfPoint(std::int32_t direction, Point center, Point point) {
     const std::int64_t down = std::int64_t{point.y} - center.y;
     const double steepness =
         std::atan2(static_cast<double>(Magnitude(down)), static_cast<double>(Magnitude(toRight)));
-    const std::int32_t tilt = static_cast<std::int32_t>(steepness * 180.0 / std::numbers::pi + 0.5);
+    const auto tilt = static_cast<std::int32_t>(std::lround(steepness * 180.0 / std::numbers::pi));
     std::int32_t angle = 0;
     if (toRight == 0) {
         angle = down > 0 ? 270 : 90;
