@@ -94,7 +94,6 @@ int CenturyOf(const HeldDate& held, const Date& today) {
 } // namespace
 
 void DeleteAtCaret(edit::Actions& actions, DateEntry& entry) {
-    KeepCaretInText(entry);
     if (HasSelection(entry.caret)) {
         ClearSelection(actions, entry);
         return;
@@ -108,7 +107,6 @@ void DeleteAtCaret(edit::Actions& actions, DateEntry& entry) {
 }
 
 void DeleteBeforeCaret(edit::Actions& actions, DateEntry& entry) {
-    KeepCaretInText(entry);
     if (HasSelection(entry.caret)) {
         ClearSelection(actions, entry);
         return;

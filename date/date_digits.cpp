@@ -59,26 +59,14 @@ void TypeAtStart(Typing& typing, HeldDate& date) {
         return;
     }
     Overtype(typing, date);
-    if (kind != kYear && typing.digit == kZero) {
+    if (typing.digit == kZero) {
         date.typedZero[0] = 1;
     }
 }
 
-// A lone 0 is not the beginning of a year, but typed over.
-bool ShowsYearZero(const HeldDate& date) {
-    const std::int32_t shown =
-        date.layout.fourDigitYear != 0 ? date.value.year : date.value.year % 100;
-    return date.layout.kinds[kPositions - 1] == kYear && shown == 0;
-}
-
+// The year 0 shows a lone 0, which counts for nothing in front of another digit.
 void TypeAtEnd(Typing& typing, const HeldDate& date) {
-    if (IsFieldFull(date, kPositions - 1)) {
-        return;
-    }
-    if (ShowsYearZero(date)) {
-        --typing.caret;
-        Overtype(typing, date);
-    } else {
+    if (!IsFieldFull(date, kPositions - 1)) {
         Insert(typing, typing.caret, typing.digit);
     }
 }
@@ -184,7 +172,6 @@ void StartDate(DateEntry& entry, char digit, const Date& today) {
 } // namespace
 
 void EnterDigit(edit::Actions& actions, DateEntry& entry, char digit, const Date& today) {
-    KeepCaretInText(entry);
     if (entry.date.null != 0) {
         StartDate(entry, digit, today);
     } else if (HasSelection(entry.caret)) {

@@ -9,8 +9,8 @@
 
 namespace vorn::date {
 
-// What a host may have done to the date since, every step first keeps caret and selection in the
-// text.
+// Hosts change the date between the keys: RunKey and ClearSelection first bring caret and selection
+// into the text that there is.
 struct DateEntry {
     HeldDate date;
     edit::FieldCaret caret; // in the edit text; its field is the position

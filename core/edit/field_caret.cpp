@@ -42,11 +42,7 @@ void FollowWithField(FieldCaret& caret, const FieldMap& map, CaretMove move) {
     }
 }
 
-bool IsStep(CaretMove move) {
-    return move == CaretMove::Left || move == CaretMove::Right;
-}
-
-// Whether the text had to be scrolled.
+// Whether the text had to be scrolled: Home and End never do.
 bool ScrollLeftToCaret(Actions& actions, FieldCaret& caret, CaretMove move) {
     if (caret.index >= caret.firstVisible) {
         return false;
@@ -113,7 +109,7 @@ void MoveCaret(Actions& actions, FieldCaret& caret, const FieldMap& map, CaretMo
         Select(caret, target, target, target, map.length);
     }
     FollowWithField(caret, map, move);
-    const bool scrolled = IsStep(move) && ScrollLeftToCaret(actions, caret, move);
+    const bool scrolled = ScrollLeftToCaret(actions, caret, move);
     if (scrolled || hadSelection || HasSelection(caret)) {
         Append(actions, {ActionKind::Repaint});
     }

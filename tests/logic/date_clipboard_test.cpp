@@ -152,6 +152,34 @@ TEST(DateClear, OfTheWholeTextMakesTheDateNull) {
     EXPECT_EQ(editor.Value(), kChristmas) << "kept for a step";
 }
 
+TEST(DateClear, ForgetsTypedZeros) {
+    Editor editor(kChristmas, "M/d/yy");
+    editor.Type("0");
+    ASSERT_EQ(editor.Shown(), "0|1/25/98") << "the 0 of \"0/25/98\"";
+    editor.SelectText(0, 8);
+    editor.Press(kDelete);
+    editor.entry.date.null = 0; // by the host
+    EXPECT_EQ(editor.Text(), "1 /25/98");
+}
+
+TEST(DateClear, KeepsTheVisibleTextInTheText) {
+    Editor editor(kChristmas, "M/d/yyyy");
+    editor.SelectText(6, 10);
+    editor.entry.caret.firstVisible = 9;
+    editor.Press(kDelete);
+    EXPECT_EQ(editor.Shown(), "12/25/|0");
+    EXPECT_EQ(editor.entry.caret.firstVisible, 7);
+}
+
+TEST(DateClear, TakesACaretThatAHostLeftBehind) {
+    Editor editor(kChristmas, "M/d/yyyy");
+    editor.SelectText(0, 10);
+    editor.entry.date.value.year = 7; // the text is shorter now, and all of it is selected
+    edit::Actions actions;
+    ClearSelection(actions, editor.entry);
+    EXPECT_EQ(editor.entry.date.null, 1);
+}
+
 TEST(DateClear, WithoutASelectionDoesNothing) {
     Editor editor = At(kChristmas, "M/d/yy", 4);
     edit::Actions actions;
@@ -260,6 +288,15 @@ TEST(DateWhole, RefusesDaysThatDoNotExist) {
     EXPECT_EQ(Whole("1/0/1995", "M/d/yyyy"), Date{});
     EXPECT_EQ(Whole("9/5/1752", "M/d/yyyy"), Date{});
     EXPECT_EQ(Whole("9/14/1752", "M/d/yyyy"), (Date{9, 14, 1752}));
+}
+
+TEST(DateWhole, ReadsNumbersWithoutASeparator) {
+    Editor editor(kChristmas, "M/d/yyyy");
+    editor.entry.date.layout.separator = '\0';
+    Date read{};
+    EXPECT_TRUE(ReadWholeDate(read, "03052007", editor.entry.date, kToday));
+    EXPECT_EQ(read, (Date{3, 5, 2007}));
+    EXPECT_FALSE(ReadWholeDate(read, "03/05/2007", editor.entry.date, kToday));
 }
 
 TEST(DateWhole, KeepsTheCenturyOfShortYears) {

@@ -267,6 +267,15 @@ TEST(DateDigitsOverSelection, AZeroIsShownWhereItStarts) {
     EXPECT_EQ(Replaced(kFifthOfMarch, "M/d/yy", 0, 2, "05"), "5 |/5 /7");
 }
 
+TEST(DateDigitsOverSelection, ForgetTheZeroOfAnotherField) {
+    Editor editor(kFifthOfMarch, "M/d/yy");
+    editor.Type("0");
+    ASSERT_EQ(editor.Shown(), "0|1/5 /7");
+    editor.SelectText(3, 5);
+    editor.Type("2");
+    EXPECT_EQ(editor.Shown(), "1 /2| /7");
+}
+
 // Inside a field the zero counts for the third one, whichever field that is.
 TEST(DateDigitsOverSelection, AZeroInsideAFieldMarksTheThird) {
     EXPECT_EQ(Replaced({12, 5, 2007}, "yy/M/d", 3, 4, "0"), "7/10|/05");
