@@ -5,7 +5,7 @@
 
 namespace vorn {
 
-// How to read them. The function is called with the record's context.
+// How to read them. The functions are called with the record's context.
 struct RegionalProfile {
     void* context;
 
@@ -13,6 +13,9 @@ struct RegionalProfile {
     // `fallback` when there is no such key.
     void (*readString)(void* context, const char* key, const char* fallback, char* buffer,
                        std::uint32_t size);
+
+    // The number of a key, `fallback` when there is no such key. Only who reads numbers needs it.
+    std::uint32_t (*readInteger)(void* context, const char* key, std::int32_t fallback) = nullptr;
 };
 
 } // namespace vorn
