@@ -38,6 +38,7 @@ bool IsBlank(char character) {
 // when digits were cut.
 struct ScannedNumber {
     const char* firstDigit = nullptr; // of those that count
+    const char* end = nullptr;        // of the digits
     std::uint64_t leading = 0;
     int leadingCount = 0;
     bool cut = false;
@@ -107,6 +108,7 @@ ScannedNumber ScanNumber(const char*& text) {
     if (!number.anyDigit) {
         return {};
     }
+    number.end = rest;
     number.power += ScanExponent(rest);
     text = rest;
     return number;
@@ -140,20 +142,19 @@ std::uint64_t RoundToDouble(const Product& product, std::uint64_t error) {
 BigNumber AllDigits(const ScannedNumber& number, std::int64_t& power) {
     BigNumber big = MakeBigNumber(0);
     int count = 0;
-    power = number.power + number.leadingCount;
-    for (const char* digit = number.firstDigit; IsDigit(*digit) || *digit == '.'; ++digit) {
-        if (*digit == '.') {
-            continue;
+    const char* digit = number.firstDigit;
+    for (; digit != number.end && count < kMostDigits; ++digit) {
+        if (*digit != '.') {
+            MultiplyAdd(big, 10, static_cast<std::uint32_t>(*digit - '0'));
+            ++count;
         }
-        if (count == kMostDigits) {
-            MultiplyAdd(big, 10, 1);
-            --power;
-            break;
-        }
-        MultiplyAdd(big, 10, static_cast<std::uint32_t>(*digit - '0'));
-        ++count;
-        --power;
     }
+    const auto counts = [](char character) { return character != '0' && character != '.'; };
+    if (std::any_of(digit, number.end, counts)) {
+        MultiplyAdd(big, 10, 1);
+        ++count;
+    }
+    power = number.power + number.leadingCount - count;
     return big;
 }
 
