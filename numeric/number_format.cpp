@@ -182,7 +182,7 @@ void WriteFloating(const NumberSettings& settings, double value, std::span<char>
     const char decimalChar = DecimalCharOf(settings);
     GeneralForm(value, formatted);
     if (decimalChar != '\0') {
-        std::replace(formatted.begin(), formatted.begin() + std::strlen(formatted.data()), '.',
+        std::replace(formatted.data(), formatted.data() + std::strlen(formatted.data()), '.',
                      decimalChar);
     }
     if (std::isfinite(value)) {

@@ -39,6 +39,13 @@ char LibraryPoint() {
     return text[1];
 }
 
+// Windows has every locale; elsewhere those that are installed are tried.
+#ifdef _WIN32
+constexpr int kFewestCommas = 2;
+#else
+constexpr int kFewestCommas = 0;
+#endif
+
 struct LocaleGuard {
     std::string before = std::setlocale(LC_ALL, nullptr);
     ~LocaleGuard() { std::setlocale(LC_ALL, before.c_str()); }
@@ -56,9 +63,7 @@ TEST(NumberLocale, ChangesNothing) {
             EXPECT_EQ(WhatNumbersBecome(), before) << name;
         }
     }
-#ifdef _WIN32
-    EXPECT_GT(commas, 0) << "this C library always has a locale with a comma";
-#endif
+    EXPECT_GE(commas, kFewestCommas);
 }
 
 } // namespace
