@@ -118,14 +118,14 @@ ScannedNumber ScanNumber(const char*& text) {
 std::uint64_t RoundToDouble(const Product& product, std::uint64_t error) {
     std::uint64_t mantissa = product.mantissa + error;
     int exponent = product.exponent;
-    if (mantissa < error) { // a carry out of the highest bit
-        mantissa = (mantissa >> 1) | kSignBit;
+    if (mantissa < error) { // a carry out of the highest bit; the lowest one must not get lost
+        mantissa = (mantissa >> 1) | (mantissa & 1) | kSignBit;
         ++exponent;
     }
     constexpr int kSpareBits = 63 - kFractionBits;
     // A normal number's highest bit adds one to the exponent's field.
     const int field = exponent + kSpareBits - kLowestExponent;
-    const int dropped = field >= 0 ? kSpareBits : kSpareBits - field;
+    const int dropped = kSpareBits + std::max(-field, 0);
     if (dropped > 64) {
         return 0;
     }
