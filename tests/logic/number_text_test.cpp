@@ -289,7 +289,7 @@ TEST(TextToNumber, ReadsRandomNumbersAsTheNearestDouble) {
     RandomBits random;
     for (int count = 0; count < 10000; ++count) {
         std::string digits = std::to_string(random.Next());
-        digits.resize(1 + random.Below(digits.size()));
+        digits.resize(1 + static_cast<std::size_t>(random.Below(digits.size())));
         if (random.Below(3) == 0) {
             digits += std::to_string(random.Next()) + std::to_string(random.Next());
         }
