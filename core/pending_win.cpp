@@ -33,10 +33,6 @@ LRESULT CALLBACK VORNDialWinFn(HWND window, UINT message, WPARAM wParam, LPARAM 
     return DefWindowProcA(window, message, wParam, lParam);
 }
 
-LRESULT CALLBACK VORNUDLRWinFn(HWND window, UINT message, WPARAM wParam, LPARAM lParam) {
-    return DefWindowProcA(window, message, wParam, lParam);
-}
-
 LRESULT CALLBACK VORNHierListWinFn(HWND window, UINT message, WPARAM wParam, LPARAM lParam) {
     return DefWindowProcA(window, message, wParam, lParam);
 }

@@ -6,5 +6,6 @@
 
 #include <vorn32/library.h>
 #include <vorn32/percentbar.h>
+#include <vorn32/udlr.h>
 
 #endif
