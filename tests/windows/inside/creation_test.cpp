@@ -15,6 +15,7 @@ struct Control {
 
 constexpr Control kControls[] = {
     {VORN_PERCENTBAR_CLASS, VPBS_PERCENT | VPBS_SCALETEXT},
+    {VORN_BUTTON_CLASS, VBTS_PICTURE | VBTS_NOTIFY},
     {VORN_UDLR_CLASS, WS_BORDER},
 };
 
