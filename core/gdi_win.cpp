@@ -1,5 +1,7 @@
 #include "core/gdi_win.h"
 
+#include "core/classes_win.h"
+
 namespace vorn {
 
 void FillWithColor(HDC context, const Rect& rect, COLORREF color) {
@@ -9,6 +11,10 @@ void FillWithColor(HDC context, const Rect& rect, COLORREF color) {
     const RECT area = ToPlatform(rect);
     SetDCBrushColor(context, color);
     FillRect(context, &area, static_cast<HBRUSH>(GetStockObject(DC_BRUSH)));
+}
+
+HBITMAP LoadPicture(WORD id) {
+    return LoadBitmapA(Module(), MAKEINTRESOURCEA(id));
 }
 
 TEXTMETRICA MeasureFont(HFONT font) {

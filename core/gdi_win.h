@@ -36,6 +36,14 @@ private:
 // Fills with one colour; an empty or inverted rectangle paints nothing.
 void FillWithColor(HDC context, const Rect& rect, COLORREF color);
 
+// A bitmap of the library's resources, the caller's to delete; null when it cannot be had.
+HBITMAP LoadPicture(WORD id);
+
+// The font that a host's choice means: none is the stock SYSTEM_FONT.
+inline HFONT OrSystemFont(HFONT font) {
+    return font != nullptr ? font : static_cast<HFONT>(GetStockObject(SYSTEM_FONT));
+}
+
 // The metrics of a font, measured on the screen.
 TEXTMETRICA MeasureFont(HFONT font);
 

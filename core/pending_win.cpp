@@ -5,10 +5,6 @@
 
 extern "C" {
 
-LRESULT CALLBACK VORNButtonWinFn(HWND window, UINT message, WPARAM wParam, LPARAM lParam) {
-    return DefWindowProcA(window, message, wParam, lParam);
-}
-
 LRESULT CALLBACK VORNNumEditWinFn(HWND window, UINT message, WPARAM wParam, LPARAM lParam) {
     return DefWindowProcA(window, message, wParam, lParam);
 }
@@ -30,10 +26,6 @@ LRESULT CALLBACK VORNCalendarWinFn(HWND window, UINT message, WPARAM wParam, LPA
 }
 
 LRESULT CALLBACK VORNDialWinFn(HWND window, UINT message, WPARAM wParam, LPARAM lParam) {
-    return DefWindowProcA(window, message, wParam, lParam);
-}
-
-LRESULT CALLBACK VORNUDLRWinFn(HWND window, UINT message, WPARAM wParam, LPARAM lParam) {
     return DefWindowProcA(window, message, wParam, lParam);
 }
 

@@ -11,8 +11,7 @@ constexpr int kClassNameSize = 60;
 } // namespace
 
 void ChangeStyle(HWND window, DWORD clear, DWORD set) {
-    const auto style = static_cast<DWORD>(GetWindowLongA(window, GWL_STYLE));
-    SetWindowLongA(window, GWL_STYLE, static_cast<LONG>((style & ~clear) | set));
+    SetWindowLongA(window, GWL_STYLE, static_cast<LONG>((StyleOf(window) & ~clear) | set));
 }
 
 void NotifyParent(HWND window, WORD code) {
@@ -30,6 +29,20 @@ bool IsInHostApp(HWND window) {
         }
     }
     return SendMessageA(parent, VORN_WM_IS_HOST_APP, 0, 0) == VORN_HOST_APP_YES;
+}
+
+CaptureOwner NewCaptureOwner(HWND window, LPARAM lParam) {
+    const auto owner = reinterpret_cast<HWND>(lParam);
+    if (owner == nullptr) {
+        return CaptureOwner::Nobody;
+    }
+    return owner == window ? CaptureOwner::Self : CaptureOwner::Other;
+}
+
+UINT KeyboardSetting(UINT setting) {
+    DWORD value = 0;
+    SystemParametersInfoA(setting, 0, &value, 0);
+    return LOWORD(value);
 }
 
 } // namespace vorn

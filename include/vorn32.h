@@ -4,7 +4,9 @@
 #ifndef VORN32_H
 #define VORN32_H
 
+#include <vorn32/button.h>
 #include <vorn32/library.h>
 #include <vorn32/percentbar.h>
+#include <vorn32/udlr.h>
 
 #endif

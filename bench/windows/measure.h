@@ -32,6 +32,7 @@ Function* Ours(const char* name) {
 
 // What each control measures.
 void MeasureLoading();
+void MeasureButton();
 void MeasurePercentBar();
 
 } // namespace bench

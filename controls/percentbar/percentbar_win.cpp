@@ -9,10 +9,6 @@
 namespace vorn::percentbar {
 namespace {
 
-HFONT OrSystemFont(HFONT font) {
-    return font != nullptr ? font : static_cast<HFONT>(GetStockObject(SYSTEM_FONT));
-}
-
 LRESULT OnCreate(HWND window, WPARAM wParam, LPARAM lParam) {
     if (DefWindowProcA(window, WM_NCCREATE, wParam, lParam) == 0) {
         return 0;
@@ -21,7 +17,7 @@ LRESULT OnCreate(HWND window, WPARAM wParam, LPARAM lParam) {
     if (record == nullptr) {
         return 0;
     }
-    record->state = StateFromStyle(static_cast<DWORD>(GetWindowLongA(window, GWL_STYLE)));
+    record->state = StateFromStyle(StyleOf(window));
     record->scaleFont = OrSystemFont(nullptr);
     record->percentFont = OrSystemFont(nullptr);
     return 1;

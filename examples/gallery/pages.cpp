@@ -2,10 +2,12 @@
 
 namespace gallery {
 
+extern const Page kButtonPage;
 extern const Page kPercentBarPage;
+extern const Page kUdlrPage;
 
 const std::vector<const Page*>& Pages() {
-    static const std::vector<const Page*> pages = {&kPercentBarPage};
+    static const std::vector<const Page*> pages = {&kButtonPage, &kPercentBarPage, &kUdlrPage};
     return pages;
 }
 

@@ -14,8 +14,10 @@ namespace {
 constexpr char kForeignClass[] = "VornTestForeign";
 constexpr int kForeignExtra = 48;
 
+constexpr UINT kPopUpSystemMenu = 0x0313; // the platform's own, which its headers leave unnamed
+
 // Messages that carry pointers, or that the default procedure answers with a modal loop.
-constexpr std::array<UINT, 40> kLeftOut = {
+constexpr std::array<UINT, 41> kLeftOut = {
     WM_CREATE,
     WM_SETTEXT,
     WM_GETTEXT,
@@ -56,6 +58,7 @@ constexpr std::array<UINT, 40> kLeftOut = {
     WM_PRINTCLIENT,
     WM_MDIGETACTIVE,
     WM_GETTEXTLENGTH,
+    kPopUpSystemMenu,
 };
 
 bool IsLeftOut(UINT message) {
