@@ -4,6 +4,7 @@
 #ifndef VORN32_H
 #define VORN32_H
 
+#include <vorn32/dial.h>
 #include <vorn32/library.h>
 #include <vorn32/percentbar.h>
 
