@@ -89,8 +89,8 @@ void AppendStopBoth(Actions& actions) {
 } // namespace
 
 // A timer that is started for a gesture that is over already would never be stopped.
-bool IsStillDue(const State& state, const Action& action) {
-    return action.kind != ActionKind::StartTimer || state.captured;
+bool IsStale(const State& state, const Action& action) {
+    return action.kind == ActionKind::StartTimer && !state.captured;
 }
 
 Actions Press(State& state, Size client, Point pointer, bool tabStop) {

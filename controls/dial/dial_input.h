@@ -53,8 +53,8 @@ struct Action {
 using Actions = ActionList<Action, 5>;
 
 // A scroll message runs host code, in which the dial may lose the mouse before the rest of the list
-// is done. Whether this action is then still to be done; asked before each of them.
-bool IsStillDue(const State& state, const Action& action);
+// is done. Whether this action is then not to be done any more; asked before each of them.
+bool IsStale(const State& state, const Action& action);
 
 // The left mouse button is pressed, once or twice. `tabStop`: the dial has the style WS_TABSTOP.
 Actions Press(State& state, Size client, Point pointer, bool tabStop);

@@ -85,7 +85,7 @@ LRESULT Take(HWND window, Step step) {
         if (record == nullptr) {
             break;
         }
-        if (IsStillDue(record->state, action)) {
+        if (!IsStale(record->state, action)) {
             Perform(window, action);
         }
     }

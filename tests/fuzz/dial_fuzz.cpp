@@ -26,7 +26,7 @@ struct Window {
 
 void Perform(Window& window, const Actions& actions) {
     for (const Action& action : actions) {
-        if (!IsStillDue(window.state, action)) {
+        if (IsStale(window.state, action)) {
             continue;
         }
         if (action.kind == ActionKind::StartTimer) {

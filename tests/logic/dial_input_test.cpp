@@ -334,7 +334,7 @@ public:
 
     void Perform(const Actions& actions) {
         for (const Action& action : actions) {
-            if (IsStillDue(state, action)) {
+            if (!IsStale(state, action)) {
                 Perform(action);
             }
         }

@@ -8,24 +8,38 @@
 namespace vorn {
 namespace {
 
+struct Control {
+    const char* className;
+    DWORD style;
+};
+
+constexpr Control kControls[] = {
+    {VORN_PERCENTBAR_CLASS, VPBS_PERCENT | VPBS_SCALETEXT},
+    {VORN_DIAL_CLASS, WS_TABSTOP},
+};
+
 TEST(Creation, FailsWithoutMemoryAndLeavesNoBlock) {
     test::HostWindow host;
     const std::uint32_t before = BlockCount();
-    FailAllocationsAfter(0);
-    EXPECT_EQ(host.Create(VORN_PERCENTBAR_CLASS, VPBS_PERCENT, 0, 0, 50, 20), nullptr);
-    FailAllocationsAfter(-1);
-    EXPECT_EQ(BlockCount(), before);
+    for (const auto& [className, style] : kControls) {
+        FailAllocationsAfter(0);
+        EXPECT_EQ(host.Create(className, style, 0, 0, 50, 20), nullptr) << className;
+        FailAllocationsAfter(-1);
+        EXPECT_EQ(BlockCount(), before) << className;
+    }
 }
 
 TEST(Creation, AThousandControlsLeaveNoBlock) {
     test::HostWindow host;
     const std::uint32_t before = BlockCount();
-    for (int i = 0; i < 1000; ++i) {
-        HWND bar = host.Create(VORN_PERCENTBAR_CLASS, VPBS_PERCENT | VPBS_SCALETEXT, 0, 0, 50, 20);
-        ASSERT_NE(bar, nullptr);
-        EXPECT_GT(BlockCount(), before);
-        DestroyWindow(bar);
-        ASSERT_EQ(BlockCount(), before);
+    for (const auto& [className, style] : kControls) {
+        for (int i = 0; i < 1000; ++i) {
+            HWND control = host.Create(className, style, 0, 0, 50, 20);
+            ASSERT_NE(control, nullptr) << className;
+            EXPECT_GT(BlockCount(), before) << className;
+            DestroyWindow(control);
+            ASSERT_EQ(BlockCount(), before) << className;
+        }
     }
 }
 
