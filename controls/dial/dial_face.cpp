@@ -7,24 +7,23 @@
 namespace vorn::dial {
 namespace {
 
-// Light and dark run from 1 (lightest) over 0 (the surface) to -1 (darkest).
-
 // In shares of the radius.
 constexpr double kTopRadius = 0.80;   // the domed top ends, and the skirt around it begins
 constexpr double kWidestSeam = 0.05;  // between the two
 constexpr double kGlossPlace = 0.36;  // of the gloss: as far left as up from the centre
-constexpr double kGlossRadius = 1.20; // where the gloss has faded away
+constexpr double kGlossRadius = 1.25; // where the gloss has faded away
 
 // In pixels.
 constexpr double kOutlineWidth = 1.25;
 constexpr double kSeamWidth = 1.0;
 
-constexpr double kTopDark = -0.45;
-constexpr double kGloss = 0.90;
-constexpr double kSeamDark = 0.45; // darker than the skirt
-constexpr double kSkirtDark = -0.10;
-constexpr double kSkirtLight = 0.70;
-constexpr double kOutlineDark = -0.85;
+// Light, from 0 (the darkest colour) to 1 (the lightest).
+constexpr double kGloss = 1.00;
+constexpr double kTopDark = 0.33;
+constexpr double kSkirtLight = 0.87; // where it faces the light
+constexpr double kSkirtDark = 0.17;  // on the other side
+constexpr double kSeamLess = 0.28;   // than the skirt
+constexpr double kOutline = 0.00;
 
 double Length(double right, double down) {
     return std::sqrt(right * right + down * down);
@@ -39,9 +38,8 @@ double Beyond(double distance, double edge) {
     return std::clamp(distance - edge + 0.5, 0.0, 1.0);
 }
 
-std::uint8_t ShadeOfLight(double light) {
-    const double shade = kFlatShade + light * (light < 0 ? kFlatShade : 255 - kFlatShade);
-    return static_cast<std::uint8_t>(std::clamp(shade + 0.5, 0.0, 255.0));
+double ShadeOfLight(double light) {
+    return Mixed(kDarkest, kLightest, std::clamp(light, 0.0, 1.0));
 }
 
 } // namespace
@@ -69,21 +67,21 @@ std::uint8_t ShadeOfPixel(std::int32_t side, Point pixel) {
     const double down = pixel.y + 0.5 - radius;
     const double distance = Length(right, down);
     if (distance >= radius + 0.5) {
-        return kFlatShade;
+        return kSurroundings;
     }
-    // 1 towards the light, -1 away from it.
-    const double towards = distance == 0 ? 0 : -(right + down) / distance / std::numbers::sqrt2;
-    const double topEdge = radius * kTopRadius;
-    const double seamEdge = topEdge - std::min(kSeamWidth, radius * kWidestSeam);
     const double glossAway =
         Length(right / radius + kGlossPlace, down / radius + kGlossPlace) / kGlossRadius;
     const double top = Mixed(kGloss, kTopDark, std::min(glossAway, 1.0));
-    const double skirt = kSkirtDark + towards * kSkirtLight;
-    double light = Mixed(top, skirt - kSeamDark, Beyond(distance, seamEdge));
+    // 1 towards the light, -1 away from it.
+    const double towards = distance == 0 ? 0 : -(right + down) / distance / std::numbers::sqrt2;
+    const double skirt = Mixed(kSkirtDark, kSkirtLight, (towards + 1) / 2);
+    const double topEdge = radius * kTopRadius;
+    const double seamEdge = topEdge - std::min(kSeamWidth, radius * kWidestSeam);
+    double light = Mixed(top, skirt - kSeamLess, Beyond(distance, seamEdge));
     light = Mixed(light, skirt, Beyond(distance, topEdge));
-    light = Mixed(light, kOutlineDark, Beyond(distance, radius - kOutlineWidth));
-    light = Mixed(light, 0, Beyond(distance, radius));
-    return ShadeOfLight(light);
+    light = Mixed(light, kOutline, Beyond(distance, radius - kOutlineWidth));
+    const double shade = Mixed(ShadeOfLight(light), kSurroundings, Beyond(distance, radius));
+    return static_cast<std::uint8_t>(shade + 0.5);
 }
 
 } // namespace vorn::dial

@@ -1,4 +1,4 @@
-// The knob's face: a disc in shades between five of the system's colours, lit from the upper left.
+// The knob's face: a disc in shades between the system's colours, lit from the upper left.
 #pragma once
 
 #include "core/geometry.h"
@@ -8,16 +8,17 @@
 
 namespace vorn::dial {
 
-// Where each of the five colours stands among the shades; the others lie between two of them.
-constexpr std::array<std::uint8_t, 4> kColorShades = {0, 64, 128, 255};
-
-// What surrounds the disc within its square.
-constexpr std::uint8_t kFlatShade = kColorShades[2];
-
-// Colours as the platform has them (0x00BBGGRR), from the darkest to the lightest: those of the
-// system's raised and sunken edges, and in their middle that of the surface. A high-contrast scheme
-// orders them otherwise.
+// Four colours as the platform has them (0x00BBGGRR): the surroundings' and the knob's own from the
+// darkest to the lightest. Its outline has the darkest, so that from the surroundings over the
+// outline to the knob the shades rise; no scheme of colours, however strange, puts another colour
+// in between.
 using FaceColors = std::array<std::uint32_t, 4>;
+
+// Where they stand among the shades; the others lie between two of them.
+constexpr std::array<std::uint8_t, 4> kColorShades = {0, 64, 128, 255};
+constexpr std::uint8_t kSurroundings = kColorShades[0];
+constexpr std::uint8_t kDarkest = kColorShades[1];
+constexpr std::uint8_t kLightest = kColorShades[3];
 
 // The colour of a shade.
 std::uint32_t ColorOfShade(const FaceColors& colors, std::uint8_t shade);

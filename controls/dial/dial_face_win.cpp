@@ -13,7 +13,7 @@ constexpr WORD kPaletteVersion = 0x300;
 constexpr std::int32_t kLargestFace = 1024;
 
 FaceColors SystemColors() {
-    return {GetSysColor(COLOR_3DDKSHADOW), GetSysColor(COLOR_BTNSHADOW), GetSysColor(COLOR_BTNFACE),
+    return {GetSysColor(COLOR_BTNFACE), GetSysColor(COLOR_3DDKSHADOW), GetSysColor(COLOR_BTNSHADOW),
             GetSysColor(COLOR_BTNHIGHLIGHT)};
 }
 

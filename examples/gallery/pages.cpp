@@ -2,10 +2,11 @@
 
 namespace gallery {
 
+extern const Page kDialPage;
 extern const Page kPercentBarPage;
 
 const std::vector<const Page*>& Pages() {
-    static const std::vector<const Page*> pages = {&kPercentBarPage};
+    static const std::vector<const Page*> pages = {&kPercentBarPage, &kDialPage};
     return pages;
 }
 

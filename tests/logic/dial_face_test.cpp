@@ -7,10 +7,12 @@
 namespace vorn::dial {
 namespace {
 
-constexpr FaceColors kColors = {0x404040, 0x808080, 0xC0C0C0, 0xFFFFFF};
+constexpr FaceColors kColors = {0xC0C0C0, 0x404040, 0x808080, 0xFFFFFF};
 
 // The knobs of dials of 40, 64, 100 and 200 pixels, and odd and tiny ones.
 constexpr std::int32_t kSides[] = {24, 48, 84, 184, 1, 2, 3, 9, 25, 85};
+
+constexpr std::int32_t kMiddle = (kDarkest + kLightest) / 2;
 
 // Four times the squared distance of a pixel's middle from the disc's.
 std::int32_t SquaredDistance(std::int32_t side, Point pixel) {
@@ -35,17 +37,16 @@ void ForEachPixel(std::int32_t side, Check check) {
 }
 
 TEST(DialFaceColors, AreTheFourAndWhatLiesBetween) {
-    EXPECT_EQ(ColorOfShade(kColors, 0), 0x404040u);
-    EXPECT_EQ(ColorOfShade(kColors, 32), 0x606060u);
-    EXPECT_EQ(ColorOfShade(kColors, 64), 0x808080u);
-    EXPECT_EQ(ColorOfShade(kColors, 96), 0xA0A0A0u);
-    EXPECT_EQ(ColorOfShade(kColors, 128), 0xC0C0C0u);
-    EXPECT_EQ(ColorOfShade(kColors, 192), 0xDFDFDFu) << "C0 + 3F x 64 / 127 = C0 + 1F.C";
+    EXPECT_EQ(ColorOfShade(kColors, 0), 0xC0C0C0u);
+    EXPECT_EQ(ColorOfShade(kColors, 32), 0x808080u);
+    EXPECT_EQ(ColorOfShade(kColors, 64), 0x404040u);
+    EXPECT_EQ(ColorOfShade(kColors, 96), 0x606060u);
+    EXPECT_EQ(ColorOfShade(kColors, 128), 0x808080u);
+    EXPECT_EQ(ColorOfShade(kColors, 192), 0xC0C0C0u) << "80 + 7F x 64 / 127 = 80 + 40";
     EXPECT_EQ(ColorOfShade(kColors, 255), 0xFFFFFFu);
 }
 
 TEST(DialFaceColors, MixEachChannelForItself) {
-    // As a high-contrast scheme has it: dark and light on either side of black.
     const FaceColors colors = {0x00FF80, 0x80007F, 0x000000, 0x7F00FE};
     EXPECT_EQ(ColorOfShade(colors, 0), 0x00FF80u);
     EXPECT_EQ(ColorOfShade(colors, 32), 0x408080u) << "0 to 80; FF - 7F; 80 - 0.8 truncated";
@@ -55,20 +56,31 @@ TEST(DialFaceColors, MixEachChannelForItself) {
     EXPECT_EQ(ColorOfShade(colors, 255), 0x7F00FEu);
 }
 
-TEST(DialFaceColors, RiseWithoutAStepBack) {
-    for (std::int32_t shade = 1; shade < 256; ++shade) {
+TEST(DialFaceColors, RiseWithoutAStepBackOnTheKnob) {
+    for (std::int32_t shade = kDarkest + 1; shade <= kLightest; ++shade) {
         EXPECT_GE(ColorOfShade(kColors, static_cast<std::uint8_t>(shade)),
                   ColorOfShade(kColors, static_cast<std::uint8_t>(shade - 1)))
             << shade;
     }
 }
 
-TEST(DialFace, LeavesItsSurroundingsFlat) {
-    EXPECT_EQ(ColorOfShade(kColors, kFlatShade), kColors[2]);
+TEST(DialFace, LeavesItsSurroundingsAlone) {
     for (const std::int32_t side : kSides) {
         ForEachPixel(side, [&](Point pixel) {
             if (SquaredDistance(side, pixel) >= (side + 1) * (side + 1)) {
-                EXPECT_EQ(ShadeOfPixel(side, pixel), kFlatShade)
+                EXPECT_EQ(ShadeOfPixel(side, pixel), kSurroundings)
+                    << side << ": " << pixel.x << ", " << pixel.y;
+            }
+        });
+    }
+}
+
+TEST(DialFace, HasTheKnobsOwnColorsInside) {
+    for (const std::int32_t side : kSides) {
+        ForEachPixel(side, [&](Point pixel) {
+            const std::int32_t inside = side - 1;
+            if (inside > 0 && SquaredDistance(side, pixel) <= inside * inside) {
+                EXPECT_GE(ShadeOfPixel(side, pixel), kDarkest)
                     << side << ": " << pixel.x << ", " << pixel.y;
             }
         });
@@ -81,7 +93,7 @@ TEST(DialFace, IsClosedByADarkLineAllAround) {
             const double squared = SquaredDistance(side, pixel);
             // From three quarters to half a pixel inside of the rim.
             if (squared >= (side - 1.5) * (side - 1.5) && squared <= (side - 1) * (side - 1)) {
-                EXPECT_LT(ShadeOfPixel(side, pixel), kColorShades[1])
+                EXPECT_LT(ShadeOfPixel(side, pixel), kDarkest + 48)
                     << side << ": " << pixel.x << ", " << pixel.y;
             }
         });
@@ -100,8 +112,8 @@ TEST(DialFace, IsLitFromTheUpperLeft) {
             }
             const bool upperLeft = std::max(pixel.x, pixel.y) < side * 2 / 5;
             if (upperLeft && IsInRing(side, pixel, 0.86, 0.89)) {
-                EXPECT_GT(ShadeOfPixel(side, pixel), kFlatShade) << "the skirt";
-                EXPECT_LT(ShadeOfPixel(side, opposite), kFlatShade);
+                EXPECT_GT(ShadeOfPixel(side, pixel), kMiddle) << "the skirt";
+                EXPECT_LT(ShadeOfPixel(side, opposite), kMiddle);
             }
         });
     }

@@ -224,6 +224,13 @@ int Brightness(COLORREF color) {
     return GetRValue(color) + GetGValue(color) + GetBValue(color);
 }
 
+// Between the knob's darkest and its lightest colour.
+int MiddleBrightness() {
+    return (Brightness(GetSysColor(COLOR_3DDKSHADOW)) +
+            Brightness(GetSysColor(COLOR_BTNHIGHLIGHT))) /
+           2;
+}
+
 struct Sized {
     int width;
     int height;
@@ -275,7 +282,6 @@ TEST_F(DialPaint, TheKnobIsADiscLitFromTheUpperLeft) {
         SetDialPos(dial, 50, TRUE);
         const Pixels pixels = PixelsOf(dial);
         const LONG side = sized.knob.right - sized.knob.left;
-        const int face = Brightness(GetSysColor(COLOR_BTNFACE));
         for (int ray = 0; ray < 64; ++ray) {
             EXPECT_TRUE(HasDarkLine(pixels, sized.knob, ray)) << sized.width << ", ray " << ray;
         }
@@ -283,8 +289,8 @@ TEST_F(DialPaint, TheKnobIsADiscLitFromTheUpperLeft) {
             return Brightness(pixels.At(static_cast<int>(sized.knob.left + side * eighthX / 8),
                                         static_cast<int>(sized.knob.top + side * eighthY / 8)));
         };
-        EXPECT_GT(at(3, 3), face);
-        EXPECT_LT(at(6, 6), face);
+        EXPECT_GT(at(3, 3), MiddleBrightness());
+        EXPECT_LT(at(6, 6), MiddleBrightness());
         EXPECT_GT(at(3, 3), at(4, 4));
         EXPECT_GT(at(4, 4), at(5, 5));
         DestroyWindow(dial);
@@ -299,9 +305,8 @@ TEST_F(DialPaint, AVeryLargeKnobIsStretched) {
     PumpMessages();
     UpdateWindow(dial);
     const Pixels pixels = PixelsOf(dial);
-    const int face = Brightness(GetSysColor(COLOR_BTNFACE));
-    EXPECT_GT(Brightness(pixels.At(450, 446)), face);
-    EXPECT_LT(Brightness(pixels.At(880, 876)), face) << "the disc reaches as far";
+    EXPECT_GT(Brightness(pixels.At(450, 446)), MiddleBrightness());
+    EXPECT_LT(Brightness(pixels.At(960, 956)), MiddleBrightness()) << "the disc reaches as far";
     EXPECT_NE(pixels.At(590, 1160), GetSysColor(COLOR_BTNFACE));
     DestroyWindow(parent);
 }

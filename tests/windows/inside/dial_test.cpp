@@ -28,9 +28,9 @@ TEST(DialRecord, OwnsAPaletteOfTheSystemsColors) {
     const struct {
         UINT shade;
         int color;
-    } cases[] = {{0, COLOR_3DDKSHADOW},
-                 {64, COLOR_BTNSHADOW},
-                 {128, COLOR_BTNFACE},
+    } cases[] = {{0, COLOR_BTNFACE},
+                 {64, COLOR_3DDKSHADOW},
+                 {128, COLOR_BTNSHADOW},
                  {255, COLOR_BTNHIGHLIGHT}};
     for (const auto& [shade, color] : cases) {
         PALETTEENTRY entry{};
