@@ -12,9 +12,10 @@ configure_file(resources/version.h.in ${CMAKE_BINARY_DIR}/version/version.h @ONL
 
 set(system_libraries user32 gdi32 version mpr)
 
-# Linked as C: nothing of the C++ runtime may be needed.
+# Linked as C: nothing of the C++ runtime may be needed. The compiler's own functions (64-bit division
+# on 32-bit Windows) are linked before CMake brings their DLL in with the C++ library.
 add_library(VORN32 MODULE ${window_sources} resources/vorn32.rc ${dll_definition})
-target_link_libraries(VORN32 PRIVATE vorn_logic vorn_library_settings ${system_libraries})
+target_link_libraries(VORN32 PRIVATE vorn_logic vorn_library_settings gcc ${system_libraries})
 target_include_directories(VORN32 PRIVATE include ${CMAKE_BINARY_DIR}/version ${pictures})
 # The resource compiler does not tell which files it reads.
 set_source_files_properties(resources/vorn32.rc PROPERTIES OBJECT_DEPENDS "${picture_bitmaps}")

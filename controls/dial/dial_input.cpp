@@ -25,13 +25,8 @@ constexpr KeyRow kKeys[] = {
     {40, ScrollCode::LineDown, Towards::Minimum}, // Down
 };
 
-void Append(Actions& actions, const Action& action) {
-    actions.list[actions.count] = action;
-    ++actions.count;
-}
-
-void Append(Actions& actions, ActionKind kind) {
-    Append(actions, Action{.kind = kind});
+void AppendPlain(Actions& actions, ActionKind kind) {
+    Append(actions, {.kind = kind});
 }
 
 void AppendScroll(Actions& actions, ScrollCode code, std::int32_t position) {
@@ -76,7 +71,7 @@ void AppendRightStep(Actions& actions, const State& state) {
 void Follow(Actions& actions, bool& down, bool inside) {
     if (down != inside) {
         down = inside;
-        Append(actions, ActionKind::Redraw);
+        AppendPlain(actions, ActionKind::Redraw);
     }
 }
 
@@ -94,14 +89,14 @@ void AppendStopBoth(Actions& actions) {
 } // namespace
 
 // A timer that is started for a gesture that is over already would never be stopped.
-bool IsStillDue(const State& state, const Action& action) {
-    return action.kind != ActionKind::StartTimer || state.captured;
+bool IsStale(const State& state, const Action& action) {
+    return action.kind == ActionKind::StartTimer && !state.captured;
 }
 
 Actions Press(State& state, Size client, Point pointer, bool tabStop) {
     const Geometry geometry = LayOut(client);
     Actions actions;
-    Append(actions, ActionKind::Capture);
+    AppendPlain(actions, ActionKind::Capture);
     state.captured = true;
     if (Contains(geometry.leftButton, pointer)) {
         state.mode = MouseMode::LeftButton;
@@ -119,10 +114,10 @@ Actions Press(State& state, Size client, Point pointer, bool tabStop) {
     }
     if (state.mode != MouseMode::Turn) {
         AppendStart(actions, kDelayTimer, kFirstDelay);
-        Append(actions, ActionKind::Redraw);
+        AppendPlain(actions, ActionKind::Redraw);
     }
     if (tabStop) {
-        Append(actions, ActionKind::TakeFocus);
+        AppendPlain(actions, ActionKind::TakeFocus);
     }
     return actions;
 }
@@ -152,7 +147,7 @@ Actions Move(State& state, Size client, Point pointer) {
 
 Actions Release(State& state, Size client, Point pointer) {
     Actions actions;
-    Append(actions, ActionKind::ReleaseCapture);
+    AppendPlain(actions, ActionKind::ReleaseCapture);
     AppendStopBoth(actions);
     EndGesture(state);
     if (state.mode == MouseMode::Turn) {
@@ -161,16 +156,16 @@ Actions Release(State& state, Size client, Point pointer) {
     } else {
         AppendScroll(actions, ScrollCode::EndScroll, state.position);
     }
-    Append(actions, ActionKind::Redraw);
+    AppendPlain(actions, ActionKind::Redraw);
     return actions;
 }
 
-Actions CaptureChanged(State& state, bool toItself) {
+Actions CaptureChanged(State& state, CaptureOwner owner) {
     Actions actions;
-    if (state.captured && !toItself) {
+    if (state.captured && owner != CaptureOwner::Self) {
         EndGesture(state);
         AppendStopBoth(actions);
-        Append(actions, ActionKind::Redraw);
+        AppendPlain(actions, ActionKind::Redraw);
     }
     return actions;
 }
@@ -194,7 +189,8 @@ Actions KeyDown(const State& state, std::uint32_t key, Modifiers modifiers) {
     Actions actions;
     if (key == kKeyTab) {
         if (!modifiers.control && !modifiers.alt) {
-            Append(actions, modifiers.shift ? ActionKind::FocusPrevious : ActionKind::FocusNext);
+            AppendPlain(actions,
+                        modifiers.shift ? ActionKind::FocusPrevious : ActionKind::FocusNext);
         }
         return actions;
     }
@@ -218,14 +214,14 @@ Actions CharacterTyped(const State& state, std::uint32_t character) {
 
 Actions FocusChanged() {
     Actions actions;
-    Append(actions, ActionKind::Redraw);
+    AppendPlain(actions, ActionKind::Redraw);
     return actions;
 }
 
 Actions Enable(State& state, std::uint32_t enabled) {
     state.enabled = enabled;
     Actions actions;
-    Append(actions, ActionKind::Redraw);
+    AppendPlain(actions, ActionKind::Redraw);
     return actions;
 }
 
@@ -233,7 +229,7 @@ Actions Resized(Size window) {
     const bool tooSmall =
         window.width < kSmallestWindow.width || window.height < kSmallestWindow.height;
     Actions actions;
-    Append(actions, tooSmall ? ActionKind::MakeSmallest : ActionKind::RebuildFace);
+    AppendPlain(actions, tooSmall ? ActionKind::MakeSmallest : ActionKind::RebuildFace);
     return actions;
 }
 

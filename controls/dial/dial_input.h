@@ -4,8 +4,7 @@
 #pragma once
 
 #include "controls/dial/dial.h"
-
-#include <array>
+#include "core/steps.h"
 
 namespace vorn::dial {
 
@@ -51,17 +50,11 @@ struct Action {
     friend constexpr bool operator==(const Action&, const Action&) = default;
 };
 
-struct Actions {
-    std::array<Action, 5> list;
-    std::size_t count = 0;
-
-    const Action* begin() const { return list.data(); }
-    const Action* end() const { return list.data() + count; }
-};
+using Actions = ActionList<Action, 5>;
 
 // A scroll message runs host code, in which the dial may lose the mouse before the rest of the list
-// is done. Whether this action is then still to be done; asked before each of them.
-bool IsStillDue(const State& state, const Action& action);
+// is done. Whether this action is then not to be done any more; asked before each of them.
+bool IsStale(const State& state, const Action& action);
 
 // The left mouse button is pressed, once or twice. `tabStop`: the dial has the style WS_TABSTOP.
 Actions Press(State& state, Size client, Point pointer, bool tabStop);
@@ -72,9 +65,9 @@ Actions Move(State& state, Size client, Point pointer);
 // The left mouse button is released, whether or not it was pressed over the dial.
 Actions Release(State& state, Size client, Point pointer);
 
-// The mouse went to another window, or `toItself`: to the dial once more. When it went against the
-// dial's will, the gesture ends without a message, since the user has not ended it.
-Actions CaptureChanged(State& state, bool toItself);
+// The capture changed. When it went against the dial's will, the gesture ends without a message,
+// since the user has not ended it.
+Actions CaptureChanged(State& state, CaptureOwner owner);
 
 // A timer has run down; nothing for others than the dial's own. `keyboardSpeed`: the system's
 // setting as it is (0 to 31), which serves as milliseconds.

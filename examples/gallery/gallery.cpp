@@ -35,6 +35,12 @@ LRESULT CALLBACK PageProc(HWND window, UINT message, WPARAM wParam, LPARAM lPara
             page->command(window, LOWORD(wParam), HIWORD(wParam), reinterpret_cast<HWND>(lParam));
         }
         return 0;
+    case WM_VSCROLL:
+        if (page->scroll != nullptr) {
+            const auto position = static_cast<short>(HIWORD(wParam));
+            page->scroll(window, LOWORD(wParam), position, reinterpret_cast<HWND>(lParam));
+        }
+        return 0;
     case WM_TIMER:
         if (page->tick != nullptr) {
             page->tick(window);

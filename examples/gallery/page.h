@@ -14,6 +14,8 @@ struct Page {
     void (*command)(HWND page, int id, int code, HWND control);
     // Every tenth of a second while the page is shown; null when nothing runs.
     void (*tick)(HWND page);
+    // A control's scroll message; null when the page needs none.
+    void (*scroll)(HWND page, int code, int position, HWND control) = nullptr;
 };
 
 constexpr int kPageWidth = 620;

@@ -26,7 +26,7 @@ struct Window {
 
 void Perform(Window& window, const Actions& actions) {
     for (const Action& action : actions) {
-        if (!IsStillDue(window.state, action)) {
+        if (IsStale(window.state, action)) {
             continue;
         }
         if (action.kind == ActionKind::StartTimer) {
@@ -83,7 +83,7 @@ void Input(Window& window, std::uint8_t what, std::int32_t value) {
         Require(!state.captured && !state.leftDown && !state.rightDown);
         break;
     case 3:
-        Perform(window, CaptureChanged(state, (what & 0x80) != 0));
+        Perform(window, CaptureChanged(state, static_cast<CaptureOwner>(number % 3)));
         break;
     case 4:
         Perform(window, TimerTick(state, number % 4, number >> 8));

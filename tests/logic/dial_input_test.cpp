@@ -295,22 +295,24 @@ TEST(DialTimer, OfAnotherNumberIsNotItsOwn) {
 // ---- Capture ----
 
 TEST(DialCapture, TakenAwayEndsTheGestureSilently) {
-    for (const Point pressed : {kLeft, kRight, kNorth}) {
-        State state = At(40);
-        Press(state, kClient, pressed, false);
-        EXPECT_EQ(Listed(CaptureChanged(state, false)), (List{kStop1, kStop2, kRedraw}));
-        EXPECT_FALSE(state.captured);
-        EXPECT_FALSE(state.leftDown);
-        EXPECT_FALSE(state.rightDown);
-        EXPECT_EQ(Listed(Move(state, kClient, pressed)), List{});
-        EXPECT_EQ(Listed(TimerTick(state, 2, 31)), List{});
+    for (const CaptureOwner owner : {CaptureOwner::Nobody, CaptureOwner::Other}) {
+        for (const Point pressed : {kLeft, kRight, kNorth}) {
+            State state = At(40);
+            Press(state, kClient, pressed, false);
+            EXPECT_EQ(Listed(CaptureChanged(state, owner)), (List{kStop1, kStop2, kRedraw}));
+            EXPECT_FALSE(state.captured);
+            EXPECT_FALSE(state.leftDown);
+            EXPECT_FALSE(state.rightDown);
+            EXPECT_EQ(Listed(Move(state, kClient, pressed)), List{});
+            EXPECT_EQ(Listed(TimerTick(state, 2, 31)), List{});
+        }
     }
 }
 
 TEST(DialCapture, TakenByTheDialItselfChangesNothing) {
     State state = At(40);
     Press(state, kClient, kLeft, false);
-    EXPECT_EQ(Listed(CaptureChanged(state, true)), List{});
+    EXPECT_EQ(Listed(CaptureChanged(state, CaptureOwner::Self)), List{});
     EXPECT_TRUE(state.captured);
     EXPECT_TRUE(state.leftDown);
 }
@@ -319,7 +321,7 @@ TEST(DialCapture, LetGoByTheDialItselfIsNoSurprise) {
     State state = At(40);
     Press(state, kClient, kLeft, false);
     Release(state, kClient, kLeft);
-    EXPECT_EQ(Listed(CaptureChanged(state, false)), List{});
+    EXPECT_EQ(Listed(CaptureChanged(state, CaptureOwner::Nobody)), List{});
 }
 
 // Performs the actions as a window does, with a host that answers scroll messages.
@@ -332,7 +334,7 @@ public:
 
     void Perform(const Actions& actions) {
         for (const Action& action : actions) {
-            if (IsStillDue(state, action)) {
+            if (!IsStale(state, action)) {
                 Perform(action);
             }
         }
@@ -341,7 +343,7 @@ public:
 private:
     void Perform(const Action& action) {
         if (action.kind == ActionKind::ReleaseCapture) {
-            Perform(CaptureChanged(state, false)); // as the platform tells at once
+            Perform(CaptureChanged(state, CaptureOwner::Nobody)); // as the platform tells at once
         } else if (action.kind == ActionKind::StartTimer) {
             timers.insert(action.timer);
         } else if (action.kind == ActionKind::StopTimer) {
@@ -371,7 +373,9 @@ TEST(DialHost, SeesAWholeHold) {
 
 TEST(DialHost, MayTakeTheMouseInsideTheFirstStep) {
     Performer dial;
-    dial.onScroll = [](Performer& inner) { inner.Perform(CaptureChanged(inner.state, false)); };
+    dial.onScroll = [](Performer& inner) {
+        inner.Perform(CaptureChanged(inner.state, CaptureOwner::Nobody));
+    };
     dial.Perform(Press(dial.state, kClient, kLeft, true));
     EXPECT_TRUE(dial.timers.empty());
     EXPECT_FALSE(dial.state.leftDown);
@@ -389,7 +393,9 @@ TEST(DialHost, MayTakeTheMouseInsideARepeat) {
     Performer dial;
     dial.Perform(Press(dial.state, kClient, kRight, true));
     dial.Perform(TimerTick(dial.state, 1, 31));
-    dial.onScroll = [](Performer& inner) { inner.Perform(CaptureChanged(inner.state, false)); };
+    dial.onScroll = [](Performer& inner) {
+        inner.Perform(CaptureChanged(inner.state, CaptureOwner::Nobody));
+    };
     dial.Perform(TimerTick(dial.state, 2, 31));
     EXPECT_TRUE(dial.timers.empty());
 }

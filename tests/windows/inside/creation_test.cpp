@@ -17,6 +17,7 @@ constexpr Control kControls[] = {
     {VORN_PERCENTBAR_CLASS, VPBS_PERCENT | VPBS_SCALETEXT},
     {VORN_BUTTON_CLASS, VBTS_PICTURE | VBTS_NOTIFY},
     {VORN_UDLR_CLASS, WS_BORDER},
+    {VORN_DIAL_CLASS, WS_TABSTOP},
 };
 
 TEST(Creation, FailsWithoutMemoryAndLeavesNoBlock) {
