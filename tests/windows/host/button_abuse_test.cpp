@@ -362,6 +362,7 @@ TEST_F(ButtonAbuse, WorksWithoutAParent) {
     EXPECT_EQ(btnGetState(button), 12u);
     Release(button);
     KeyDown(button, VK_TAB);
+    EXPECT_EQ(GetFocus(), button) << "there is no other tab item";
     SetFocus(host.window());
     EXPECT_EQ(btnGetState(button), 0u);
     DestroyWindow(button);

@@ -1,6 +1,8 @@
 #include "tests/windows/support/objects.h"
 
 #include <windows.h>
+#include <algorithm>
+#include <array>
 #include <cstdlib>
 
 namespace vorn::test {
@@ -11,6 +13,7 @@ constexpr int kCycles = 1000;
 // Tables are reused in an order of their own, so a place may move a little without a leak. One
 // object left in ten cycles moves it further.
 constexpr int kTolerance = kCycles / 10;
+constexpr std::size_t kProbes = 2000;
 
 struct Places {
     int gdi;
@@ -22,12 +25,25 @@ int IndexOf(const void* handle) {
     return LOWORD(reinterpret_cast<UINT_PTR>(handle));
 }
 
+// The highest place that many new objects at once get: they fill the gaps that freed ones left,
+// and each that stayed behind moves the last of them one up.
+int HighestGdiPlace() {
+    std::array<HBRUSH, kProbes> brushes{};
+    int highest = 0;
+    for (HBRUSH& brush : brushes) {
+        brush = CreateSolidBrush(RGB(1, 2, 3));
+        highest = std::max(highest, IndexOf(brush));
+    }
+    for (HBRUSH brush : brushes) {
+        DeleteObject(brush);
+    }
+    return highest;
+}
+
 Places FindPlaces() {
-    HBRUSH brush = CreateSolidBrush(RGB(1, 2, 3));
     HWND window =
         CreateWindowExA(0, "STATIC", "", WS_POPUP, 0, 0, 1, 1, nullptr, nullptr, nullptr, nullptr);
-    const Places places = {IndexOf(brush), IndexOf(window)};
-    DeleteObject(brush);
+    const Places places = {HighestGdiPlace(), IndexOf(window)};
     DestroyWindow(window);
     return places;
 }
