@@ -12,5 +12,6 @@ int main() {
     LoadLibraryA("comctl32.dll");
     bench::Host();
     bench::MeasurePercentBar();
+    bench::MeasureDial();
     return 0;
 }
