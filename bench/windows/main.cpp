@@ -13,5 +13,6 @@ int main() {
     bench::Host();
     bench::MeasureButton();
     bench::MeasurePercentBar();
+    bench::MeasureDial();
     return 0;
 }

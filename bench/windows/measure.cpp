@@ -50,6 +50,15 @@ void Compare(const char* what, int calls, const std::function<void()>& ours,
     std::fflush(stdout);
 }
 
+void Measure(const char* what, int calls, const std::function<void()>& ours) {
+    std::vector<double> times;
+    for (int round = 0; round < kRounds; ++round) {
+        times.push_back(Microseconds(Repeated(calls, ours)) / calls);
+    }
+    std::printf("%-58s %10.2f us\n", what, Median(times));
+    std::fflush(stdout);
+}
+
 void Growth(const char* what, const std::function<void(int)>& run) {
     double first = 0;
     std::printf("%-58s", what);
@@ -75,9 +84,9 @@ HWND Host() {
     return host;
 }
 
-HWND Create(const char* className, DWORD style) {
-    return CreateWindowExA(0, className, "", WS_CHILD | WS_VISIBLE | style, 10, 10, 200, 20, Host(),
-                           nullptr, GetModuleHandleA(nullptr), nullptr);
+HWND Create(const char* className, DWORD style, int width, int height) {
+    return CreateWindowExA(0, className, "", WS_CHILD | WS_VISIBLE | style, 10, 10, width, height,
+                           Host(), nullptr, GetModuleHandleA(nullptr), nullptr);
 }
 
 FARPROC Exported(const char* name) {

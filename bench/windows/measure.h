@@ -11,6 +11,9 @@ namespace bench {
 void Compare(const char* what, int calls, const std::function<void()>& ours,
              const std::function<void()>& theirs);
 
+// Prints one row: microseconds a call of ours, where there is nothing to set beside it.
+void Measure(const char* what, int calls, const std::function<void()>& ours);
+
 // Prints one row of the cost an item at 1,000, 10,000 and 100,000 items, relative to the first.
 // `run` does the whole job for a number of items.
 void Growth(const char* what, const std::function<void(int items)>& run);
@@ -19,7 +22,7 @@ void Growth(const char* what, const std::function<void(int items)>& run);
 HWND Host();
 
 // A control on the host.
-HWND Create(const char* className, DWORD style);
+HWND Create(const char* className, DWORD style, int width = 200, int height = 20);
 
 // An exported function of VORN32.dll; the program ends when there is none.
 FARPROC Exported(const char* name);
@@ -33,6 +36,7 @@ Function* Ours(const char* name) {
 // What each control measures.
 void MeasureLoading();
 void MeasureButton();
+void MeasureDial();
 void MeasurePercentBar();
 
 } // namespace bench

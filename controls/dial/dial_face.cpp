@@ -38,6 +38,18 @@ double Beyond(double distance, double edge) {
     return std::clamp(distance - edge + 0.5, 0.0, 1.0);
 }
 
+// At a place in shares of the radius.
+double LightOfTop(double right, double down) {
+    const double glossAway = Length(right + kGlossPlace, down + kGlossPlace) / kGlossRadius;
+    return Mixed(kGloss, kTopDark, std::min(glossAway, 1.0));
+}
+
+// In a direction of length 1.
+double LightOfSkirt(double right, double down) {
+    const double towardsLight = -(right + down) / std::numbers::sqrt2;
+    return Mixed(kSkirtDark, kSkirtLight, (towardsLight + 1) / 2);
+}
+
 double ShadeOfLight(double light) {
     return Mixed(kDarkest, kLightest, std::clamp(light, 0.0, 1.0));
 }
@@ -69,17 +81,16 @@ std::uint8_t ShadeOfPixel(std::int32_t side, Point pixel) {
     if (distance >= radius + 0.5) {
         return kSurroundings;
     }
-    const double glossAway =
-        Length(right / radius + kGlossPlace, down / radius + kGlossPlace) / kGlossRadius;
-    const double top = Mixed(kGloss, kTopDark, std::min(glossAway, 1.0));
-    // 1 towards the light, -1 away from it.
-    const double towards = distance == 0 ? 0 : -(right + down) / distance / std::numbers::sqrt2;
-    const double skirt = Mixed(kSkirtDark, kSkirtLight, (towards + 1) / 2);
     const double topEdge = radius * kTopRadius;
     const double seamEdge = topEdge - std::min(kSeamWidth, radius * kWidestSeam);
-    double light = Mixed(top, skirt - kSeamLess, Beyond(distance, seamEdge));
-    light = Mixed(light, skirt, Beyond(distance, topEdge));
-    light = Mixed(light, kOutline, Beyond(distance, radius - kOutlineWidth));
+    double light = LightOfTop(right / radius, down / radius);
+    // The very middle has no direction, which matters for a face of one pixel only.
+    if (distance > std::max(seamEdge - 0.5, 0.0)) {
+        const double skirt = LightOfSkirt(right / distance, down / distance);
+        light = Mixed(light, skirt - kSeamLess, Beyond(distance, seamEdge));
+        light = Mixed(light, skirt, Beyond(distance, topEdge));
+        light = Mixed(light, kOutline, Beyond(distance, radius - kOutlineWidth));
+    }
     const double shade = Mixed(ShadeOfLight(light), kSurroundings, Beyond(distance, radius));
     return static_cast<std::uint8_t>(shade + 0.5);
 }

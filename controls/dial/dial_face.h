@@ -23,7 +23,8 @@ constexpr std::uint8_t kLightest = kColorShades[3];
 // The colour of a shade.
 std::uint32_t ColorOfShade(const FaceColors& colors, std::uint8_t shade);
 
-// The shade of a pixel of the face, which fills a square of this side.
+// The shade of a pixel of the face, which fills a square of this side. It is the same with the
+// pixel's coordinates exchanged.
 std::uint8_t ShadeOfPixel(std::int32_t side, Point pixel);
 
 } // namespace vorn::dial

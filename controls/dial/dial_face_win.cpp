@@ -2,6 +2,7 @@
 #include "controls/dial/dial_win.h"
 
 #include <algorithm>
+#include <cstddef>
 
 namespace vorn::dial {
 namespace {
@@ -53,8 +54,8 @@ FaceBitmapInfo DescribeFace(HPALETTE palette, std::int32_t side) {
 }
 
 // Rows of a bitmap begin at multiples of four bytes.
-std::size_t RowBytes(std::int32_t side) {
-    return (static_cast<std::size_t>(side) + 3) / 4 * 4;
+std::ptrdiff_t RowBytes(std::int32_t side) {
+    return (std::ptrdiff_t{side} + 3) / 4 * 4;
 }
 
 HBITMAP MakeFace(HPALETTE palette, std::int32_t side) {
@@ -65,12 +66,15 @@ HBITMAP MakeFace(HPALETTE palette, std::int32_t side) {
     if (face == nullptr) {
         return nullptr;
     }
-    auto* row = static_cast<std::uint8_t*>(bits);
+    auto* pixels = static_cast<std::uint8_t*>(bits);
+    const std::ptrdiff_t rowBytes = RowBytes(side);
     for (std::int32_t y = 0; y < side; ++y) {
-        for (std::int32_t x = 0; x < side; ++x) {
-            row[x] = ShadeOfPixel(side, {x, y});
+        // The light comes along the diagonal: what is on one side of it is on the other.
+        for (std::int32_t x = 0; x <= y; ++x) {
+            const std::uint8_t shade = ShadeOfPixel(side, {x, y});
+            pixels[y * rowBytes + x] = shade;
+            pixels[x * rowBytes + y] = shade;
         }
-        row += RowBytes(side);
     }
     return face;
 }

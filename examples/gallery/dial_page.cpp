@@ -14,7 +14,7 @@ constexpr LONG kPage = 10;
 HWND AddDial(HWND page, const char* name, int x, int y, int size, LONG position, int id = 0) {
     HWND dial = Add(page, VORN_DIAL_CLASS, "", WS_TABSTOP, {x, y, x + size, y + size}, id);
     SetDialPos(dial, position, TRUE);
-    AddLabel(page, name, x, y + size + 4, 150);
+    AddLabel(page, name, x, y + size + 4, size + 50);
     return dial;
 }
 
@@ -25,26 +25,26 @@ void ShowVolume(HWND page) {
 }
 
 void Create(HWND page) {
-    AddDial(page, "200 pixels, and a percent bar", 30, 20, 200, 65, kVolume);
+    AddDial(page, "200 pixels, turns the percent bar", 30, 20, 200, 65, kVolume);
     Add(page, VORN_PERCENTBAR_CLASS, "", VPBS_SUNKEN | VPBS_PERCENT, {30, 250, 230, 274}, kBar);
     Add(page, "STATIC", "", SS_LEFT, {30, 284, 230, 300}, kValue);
     ShowVolume(page);
 
     AddDial(page, "40 pixels", 290, 80, 40, 20);
-    AddDial(page, "64 pixels", 370, 56, 64, 40);
-    AddDial(page, "100 pixels", 480, 20, 100, 80);
+    AddDial(page, "64 pixels", 360, 56, 64, 40);
+    AddDial(page, "100 pixels", 450, 20, 100, 80);
 
     SetDialDirection(AddDial(page, "Counter-clockwise", 290, 170, 100, 30), 0);
     EnableWindow(AddDial(page, "Disabled", 450, 170, 100, 50), FALSE);
 
-    HWND half = AddDial(page, "Half a turn, -50 to 50", 290, 310, 100, 0);
-    SetDialRange(half, -50, 50, FALSE);
+    HWND half = AddDial(page, "Half a turn, 0 to 50", 290, 310, 100, 20);
+    SetDialRange(half, 0, 50, FALSE);
     SetDialTurnRange(half, 0, 180, TRUE);
-    HWND compass = AddDial(page, "A whole turn, 0 to 359", 450, 310, 100, 0);
+    // North is 0, and 359 the last degree before it.
+    HWND compass = AddDial(page, "A compass, 0 to 359", 450, 310, 100, 0);
     SetDialRange(compass, 0, 359, FALSE);
-    SetDialTurnRange(compass, -269, 90, FALSE);
-    SetDialDirection(compass, 0);
-    SetDialPos(compass, 300, TRUE);
+    SetDialTurnRange(compass, -270, 89, FALSE);
+    SetDialPos(compass, 315, TRUE);
 }
 
 // The arrow keys have their line codes the other way round than the corner buttons.

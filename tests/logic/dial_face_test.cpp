@@ -79,7 +79,7 @@ TEST(DialFace, HasTheKnobsOwnColorsInside) {
     for (const std::int32_t side : kSides) {
         ForEachPixel(side, [&](Point pixel) {
             const std::int32_t inside = side - 1;
-            if (inside > 0 && SquaredDistance(side, pixel) <= inside * inside) {
+            if (SquaredDistance(side, pixel) <= inside * inside) {
                 EXPECT_GE(ShadeOfPixel(side, pixel), kDarkest)
                     << side << ": " << pixel.x << ", " << pixel.y;
             }
