@@ -30,8 +30,8 @@ constexpr std::int16_t kDeepestLevel = 0x7FFF; // deeper items have this level t
 
 // What an item's `marks` tell beside its flags.
 constexpr std::uint8_t kMarkInOrder = 1;     // its children are in the order that sorting gives
-constexpr std::uint8_t kMarkOddChildren = 2; // links and rows of its children may differ in order,
-                                             // or a child's level be 0
+constexpr std::uint8_t kMarkOddChildren = 2; // not so: its children are linked in the order of the
+                                             // detached run and then of the rows, all on one level
 constexpr std::uint8_t kMarkTextOutside = 4; // the text has outgrown the record
 constexpr std::uint8_t kMarkValue = 8;       // holds a value of the host's instead of a text
 constexpr std::uint8_t kMarkDying = 16;      // taken out, to be freed; no operation takes it

@@ -83,8 +83,7 @@ std::uint32_t RowsEnd(Outline& outline, OlbItem* owner) {
         return SeqCount(outline.visibleRoot);
     }
     while (owner->shownChildren != 0) {
-        if (owner->shownChildren != owner->linkedChildren ||
-            (owner->marks & kMarkOddChildren) != 0) {
+        if ((owner->marks & kMarkOddChildren) != 0) {
             return RowsEndByWalk(outline, owner);
         }
         owner = owner->lastChild;

@@ -243,6 +243,41 @@ TEST(OutlineInsertHidden, RowLeftBehindCanBeOpenedAndGoesWithItsParents) {
     EXPECT_EQ(ParentOf(z), host.y);
 }
 
+// Links and rows then differ in order: d comes after y among the links.
+TEST(OutlineInsertHidden, AppendingBesideARowLeftBehind) {
+    Hidden host;
+    host.Insert(host.a, 0, "c");
+    host.OpenItem(host.p);
+    host.OpenItem(host.a);
+    host.CloseItem(host.a);
+    SetLocked(host.a, true);
+    host.Insert(host.a, kAppend, "d");
+    EXPECT_EQ(host.Rows(), "0p 1a 2y");
+    EXPECT_EQ(host.Run(host.a), "c x d");
+    EXPECT_EQ(host.Links(host.a), "c x y d");
+    SetLocked(host.a, false);
+    host.OpenItem(host.a);
+    EXPECT_EQ(host.Rows(), "0p 1a 2c 2x 2d 2y");
+    host.Add(host.a, "e");
+    EXPECT_EQ(host.Rows(), "0p 1a 2c 2x 2d 2y 2e");
+    host.Add(host.p, "f");
+    EXPECT_EQ(host.Rows(), "0p 1a 2c 2x 2d 2y 2e 1f");
+}
+
+// In front of it, the item goes to the end of the run.
+TEST(OutlineInsertHidden, InFrontOfARowLeftBehind) {
+    Hidden host;
+    host.Insert(host.a, 0, "c");
+    host.OpenItem(host.p);
+    host.OpenItem(host.a);
+    host.CloseItem(host.a);
+    SetLocked(host.a, true);
+    host.Insert(host.a, 2, "d");
+    EXPECT_EQ(host.Rows(), "0p 1a 2y");
+    EXPECT_EQ(host.Run(host.a), "c x d");
+    EXPECT_EQ(host.Links(host.a), "c x d y");
+}
+
 TEST(OutlineInsertHidden, CountsNeverFallBelowNothing) {
     Hidden host;
     for (const char* text : {"c", "d", "e"}) {
