@@ -1,0 +1,35 @@
+// Searching among siblings.
+#include "hierlist/compare.h"
+#include "hierlist/outline.h"
+
+namespace vorn::hierlist {
+
+OlbItem* FindString(const Outline& outline, OlbItem* parent, std::uint32_t start, const char* text,
+                    bool exact) {
+    if (parent != nullptr && (!IsItem(parent) || parent->detachedRun == nullptr)) {
+        return NoItem();
+    }
+    OlbSeqNode* sequence = parent != nullptr ? parent->detachedRun : outline.visibleRoot;
+    const OlbSeqNode* node = SeqAt(sequence, start + 1); // the first for kNoRow
+    if (node == nullptr) {
+        node = SeqFirst(sequence);
+    }
+    if (node == nullptr) {
+        return NoItem();
+    }
+    for (OlbItem* item = node->item; item != nullptr; item = item->nextSibling) {
+        if (Matches(outline, item, text, exact)) {
+            return item;
+        }
+    }
+    OlbItem* item = parent != nullptr ? parent->firstChild : SeqFirst(sequence)->item;
+    for (std::uint32_t left = start + 1; left > 0 && item != nullptr; --left) {
+        if (Matches(outline, item, text, exact)) {
+            return item;
+        }
+        item = item->nextSibling;
+    }
+    return NoItem();
+}
+
+} // namespace vorn::hierlist
