@@ -17,15 +17,8 @@ constexpr std::uint32_t kSeqEnd = kSeqFront - 1; // after which a node or run go
 // Keeps an eye on an item while the host's code runs. Lives on the stack.
 class Watch {
 public:
-    Watch(Outline& watched, OlbItem* watchedItem)
-        : item(watchedItem), outline(&watched), next(watched.watches) {
-        watched.watches = this;
-    }
-    ~Watch() {
-        if (outline != nullptr) {
-            outline->watches = next;
-        }
-    }
+    Watch(Outline& watched, OlbItem* watchedItem);
+    ~Watch();
     Watch(const Watch&) = delete;
     Watch& operator=(const Watch&) = delete;
 

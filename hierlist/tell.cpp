@@ -17,6 +17,17 @@ void TellPlaced(Outline& outline, OlbItem* item) {
 
 } // namespace
 
+Watch::Watch(Outline& watched, OlbItem* watchedItem)
+    : item(watchedItem), outline(&watched), next(watched.watches) {
+    watched.watches = this;
+}
+
+Watch::~Watch() {
+    if (outline != nullptr) {
+        outline->watches = next;
+    }
+}
+
 void ForgetWatched(Outline& outline, const OlbItem* item) {
     for (Watch* watch = outline.watches; watch != nullptr; watch = watch->next) {
         if (watch->item == item) {
