@@ -29,8 +29,4 @@ LRESULT CALLBACK VORNHierListWinFn(HWND window, UINT message, WPARAM wParam, LPA
     return DefWindowProcA(window, message, wParam, lParam);
 }
 
-LRESULT CALLBACK VORNCBFunction(HWND window, UINT message, WPARAM wParam, LPARAM lParam) {
-    return DefWindowProcA(window, message, wParam, lParam);
-}
-
 } // extern "C"

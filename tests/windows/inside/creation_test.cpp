@@ -31,6 +31,63 @@ TEST(Creation, FailsWithoutMemoryAndLeavesNoBlock) {
     }
 }
 
+TEST(Creation, OfAComboBoxWithoutMemoryGivesThePlainOne) {
+    test::HostWindow host;
+    const std::uint32_t before = BlockCount();
+    FailAllocationsAfter(0);
+    HWND combo = host.Create(VORN_COMBOBOX_CLASS, CBS_DROPDOWNLIST, 0, 0, 50, 90);
+    FailAllocationsAfter(-1);
+    ASSERT_NE(combo, nullptr);
+    EXPECT_EQ(GetPropA(combo, "VORNComboBoxProp"), nullptr);
+    EXPECT_EQ(SendMessageA(combo, CB_ADDSTRING, 0, reinterpret_cast<LPARAM>("one")), 0);
+    EXPECT_EQ(SendMessageA(combo, CB_GETCOUNT, 0, 0), 1);
+    SetFocus(host.window());
+    SetFocus(combo);
+    EXPECT_EQ(SendMessageA(combo, VCBM_GETPREVFOCUS, 0, 0), 0);
+    DestroyWindow(combo);
+    EXPECT_EQ(BlockCount(), before);
+}
+
+TEST(Creation, OfComboBoxesLeavesNoBlock) {
+    test::HostWindow host;
+    const std::uint32_t before = BlockCount();
+    for (int i = 0; i < 300; ++i) {
+        HWND combo = host.Create(VORN_COMBOBOX_CLASS, CBS_DROPDOWN, 0, 0, 50, 90);
+        ASSERT_EQ(BlockCount(), before + 1);
+        DestroyWindow(combo);
+        ASSERT_EQ(BlockCount(), before);
+    }
+}
+
+// A host's own procedure that refuses what the combo box allows.
+int refusals = 0;
+
+LRESULT CALLBACK RefuseCombo(HWND window, UINT message, WPARAM wParam, LPARAM lParam) {
+    const LRESULT result = VORNCBFunction(window, message, wParam, lParam);
+    if (message != WM_NCCREATE) {
+        return result;
+    }
+    EXPECT_NE(GetPropA(window, "VORNComboBoxProp"), nullptr);
+    ++refusals;
+    return 0;
+}
+
+TEST(Creation, ARefusedComboBoxLeavesNoBlock) {
+    WNDCLASSA own{};
+    GetClassInfoA(nullptr, VORN_COMBOBOX_CLASS, &own);
+    own.lpfnWndProc = RefuseCombo;
+    own.hInstance = GetModuleHandleA(nullptr);
+    own.lpszClassName = "RefusedCombo";
+    RegisterClassA(&own);
+    test::HostWindow host;
+    const std::uint32_t before = BlockCount();
+    refusals = 0;
+    EXPECT_EQ(host.Create("RefusedCombo", CBS_DROPDOWN, 0, 0, 50, 90), nullptr);
+    EXPECT_EQ(refusals, 1);
+    EXPECT_EQ(BlockCount(), before);
+    UnregisterClassA("RefusedCombo", GetModuleHandleA(nullptr));
+}
+
 TEST(Creation, AThousandControlsLeaveNoBlock) {
     test::HostWindow host;
     const std::uint32_t before = BlockCount();

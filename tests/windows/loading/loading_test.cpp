@@ -1,5 +1,6 @@
 // Loading and unloading the DLL, and what it exports.
 #include <windows.h>
+#include <cstdint>
 #include <fstream>
 #include <gtest/gtest.h>
 #include <sstream>
@@ -79,6 +80,37 @@ TEST(Loading, ExportsEveryNameOfItsList) {
         ++names;
     }
     EXPECT_GE(names, 23);
+    FreeLibrary(module);
+}
+
+// The section of a loaded module that an address lies in; null for none.
+const IMAGE_SECTION_HEADER* SectionOf(HMODULE module, FARPROC function) {
+    const auto* base = reinterpret_cast<const std::uint8_t*>(module);
+    const auto* dos = reinterpret_cast<const IMAGE_DOS_HEADER*>(base);
+    const auto* headers = reinterpret_cast<const IMAGE_NT_HEADERS*>(base + dos->e_lfanew);
+    const IMAGE_SECTION_HEADER* sections = IMAGE_FIRST_SECTION(headers);
+    const auto offset = reinterpret_cast<UINT_PTR>(function) - reinterpret_cast<UINT_PTR>(base);
+    for (WORD i = 0; i < headers->FileHeader.NumberOfSections; ++i) {
+        if (offset >= sections[i].VirtualAddress &&
+            offset - sections[i].VirtualAddress < sections[i].Misc.VirtualSize) {
+            return &sections[i];
+        }
+    }
+    return nullptr;
+}
+
+TEST(Loading, TheComboBoxProcedureHasACodeSectionOfItsOwn) {
+    HMODULE module = LoadLibraryA("VORN32.dll");
+    ASSERT_NE(module, nullptr);
+    const IMAGE_SECTION_HEADER* comboBox =
+        SectionOf(module, GetProcAddress(module, "VORNCBFunction"));
+    ASSERT_NE(comboBox, nullptr);
+    EXPECT_NE(comboBox->Characteristics & IMAGE_SCN_CNT_CODE, 0u);
+    EXPECT_NE(comboBox->Characteristics & IMAGE_SCN_MEM_EXECUTE, 0u);
+    EXPECT_EQ(comboBox->Characteristics & IMAGE_SCN_MEM_WRITE, 0u);
+    for (const char* other : {"VORNPctBarWinFn", "VORNFontSelectWinFn", "pbSetLimit"}) {
+        EXPECT_NE(SectionOf(module, GetProcAddress(module, other)), comboBox) << other;
+    }
     FreeLibrary(module);
 }
 
