@@ -19,16 +19,19 @@ void NotifyParent(HWND window, WORD code) {
     SendMessageA(GetParent(window), WM_COMMAND, idAndCode, reinterpret_cast<LPARAM>(window));
 }
 
+bool ParentIsHostApp(HWND window) {
+    return SendMessageA(GetParent(window), VORN_WM_IS_HOST_APP, 0, 0) == VORN_HOST_APP_YES;
+}
+
 bool IsInHostApp(HWND window) {
-    const HWND parent = GetParent(window);
-    for (HWND ancestor = parent; ancestor != nullptr; ancestor = GetParent(ancestor)) {
+    for (HWND ancestor = GetParent(window); ancestor != nullptr; ancestor = GetParent(ancestor)) {
         char name[kClassNameSize] = "";
         GetClassNameA(ancestor, name, kClassNameSize);
         if (lstrcmpiA(name, kHostAppClass) == 0) {
             return true;
         }
     }
-    return SendMessageA(parent, VORN_WM_IS_HOST_APP, 0, 0) == VORN_HOST_APP_YES;
+    return ParentIsHostApp(window);
 }
 
 CaptureOwner NewCaptureOwner(HWND window, LPARAM lParam) {

@@ -22,6 +22,10 @@ void ChangeStyle(HWND window, DWORD clear, DWORD set);
 // control may be gone afterwards.
 void NotifyParent(HWND window, WORD code);
 
+// Whether the control's parent, when asked, says that it is such a host application as the next
+// function looks for. Host code may run.
+bool ParentIsHostApp(HWND window);
+
 // Whether the control lives in a host application that wants the library's alternative look: one of
 // its ancestors is of the class "rwswnd", or its parent says so when asked. Host code may run.
 bool IsInHostApp(HWND window);
