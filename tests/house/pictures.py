@@ -10,7 +10,8 @@ LETTERS = {
     ".": TRANSPARENT, "X": "000000", "d": "808080", "s": "C0C0C0", "W": "FFFFFF", "r": "800000",
     "R": "FF0000", "g": "008000", "G": "00FF00", "o": "808000", "Y": "FFFF00", "n": "000080",
     "B": "0000FF", "p": "800080", "t": "008080", "C": "00FFFF"}
-SIZES = {"button20": (20, 20), "button16": (16, 15), "hostapp": (20, 20), "pad": (29, 29)}
+SIZES = {"button20": (20, 20), "button16": (16, 15), "hostapp": (20, 20), "pad": (29, 29),
+         "fontmark": (16, 12)}
 # The cells of each set in the order of their numbers.
 CELLS = {
     "button20": [
@@ -24,7 +25,8 @@ CELLS = {
         "20-next", "21-last", "22-up", "23-down", "24-play", "25-pause", "26-stop-media",
         "27-record", "28-sort-ascending", "29-filter", "30-calendar", "31-clock"],
     "hostapp": ["00-application"],
-    "pad": ["305-rest", "306-up", "307-right", "308-down", "309-left"]}
+    "pad": ["305-rest", "306-up", "307-right", "308-down", "309-left"],
+    "fontmark": ["355-truetype", "356-plain"]}
 
 
 def path_of(set_name, cell):
