@@ -94,7 +94,8 @@ HWND DestroyedWindow() {
     return window;
 }
 
-void SendRandomMessages(const std::function<HWND()>& create, std::uint32_t seed, int count) {
+void SendRandomMessages(const std::function<HWND()>& create, std::uint32_t seed, int count,
+                        const std::vector<UINT>& leftOut) {
     std::printf("random messages with seed %u\n", seed);
     std::mt19937 random(seed);
     const std::array<LPARAM, 8> edges = {
@@ -110,7 +111,8 @@ void SendRandomMessages(const std::function<HWND()>& create, std::uint32_t seed,
             ASSERT_NE(window, nullptr) << "nothing to send messages to";
         }
         const UINT message = random() % (WM_USER + 513);
-        if (!IsLeftOut(message)) {
+        if (!IsLeftOut(message) &&
+            std::find(leftOut.begin(), leftOut.end(), message) == leftOut.end()) {
             SendMessageA(window, message, static_cast<WPARAM>(parameter()), parameter());
         }
         if (sent % 1000 == 0) {

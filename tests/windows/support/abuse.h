@@ -4,6 +4,7 @@
 #include <windows.h>
 #include <cstdint>
 #include <functional>
+#include <vector>
 
 namespace vorn::test {
 
@@ -15,8 +16,9 @@ HWND CreateForeignWindow();
 HWND DestroyedWindow();
 
 // Sends random messages from WM_NULL to WM_USER + 512 with random parameters to the window, which
-// is created again when it is gone. Messages whose parameters are pointers are left out. The seed
-// is printed.
-void SendRandomMessages(const std::function<HWND()>& create, std::uint32_t seed, int count);
+// is created again when it is gone. Messages whose parameters are pointers are left out, those of
+// the control's own as the caller tells. The seed is printed.
+void SendRandomMessages(const std::function<HWND()>& create, std::uint32_t seed, int count,
+                        const std::vector<UINT>& leftOut = {});
 
 } // namespace vorn::test

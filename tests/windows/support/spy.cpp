@@ -18,7 +18,7 @@ LRESULT CALLBACK Spy::Procedure(HWND window, UINT message, WPARAM wParam, LPARAM
     if (spy->before) {
         spy->before(received);
     }
-    return CallWindowProcA(procedure, window, message, wParam, lParam);
+    return !IsWindow(window) ? 0 : CallWindowProcA(procedure, window, message, wParam, lParam);
 }
 
 Spy::Spy(HWND window) : window_(window) {
