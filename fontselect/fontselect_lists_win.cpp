@@ -22,6 +22,8 @@ void CreateLists(HWND window) {
         return;
     }
     record->dialog = dialog;
+    record->familyList = GetDlgItem(dialog, kFamilyList);
+    record->sizeList = GetDlgItem(dialog, kSizeList);
     LetTabsIn(window);
     LetTabsIn(dialog);
     ShowWindow(dialog, SW_SHOW);
@@ -124,15 +126,19 @@ void ListFamiliesAnew(HWND window) {
     AskList(list, CB_SETCURSEL, found >= 0 ? static_cast<WPARAM>(found) : 0);
 }
 
-// A host may have destroyed the dialog.
+// A host may have destroyed the dialog or a list.
 HWND DialogOf(HWND window) {
     const Record* record = RecordOf<Record>(window);
     return record != nullptr && GetParent(record->dialog) == window ? record->dialog : nullptr;
 }
 
 HWND ListOf(HWND window, std::int32_t list) {
-    HWND dialog = DialogOf(window);
-    return dialog == nullptr ? nullptr : GetDlgItem(dialog, list);
+    const Record* record = RecordOf<Record>(window);
+    if (record == nullptr || record->dialog == nullptr) {
+        return nullptr;
+    }
+    HWND found = list == kFamilyList ? record->familyList : record->sizeList;
+    return GetParent(found) == record->dialog ? found : nullptr;
 }
 
 LRESULT AskList(HWND list, UINT message, WPARAM wParam, LPARAM lParam) {

@@ -16,6 +16,8 @@ struct Record {
 
     State state;
     HWND dialog = nullptr;
+    HWND familyList = nullptr; // in the dialog; asked for once, since each family goes there
+    HWND sizeList = nullptr;
     HFONT font = nullptr; // the host's, or the stock SYSTEM_FONT
     HBITMAP trueTypeMark = nullptr;
     HBITMAP plainMark = nullptr;

@@ -14,5 +14,6 @@ int main() {
     bench::MeasureButton();
     bench::MeasurePercentBar();
     bench::MeasureDial();
+    bench::MeasureFontSelect();
     return 0;
 }

@@ -38,5 +38,6 @@ void MeasureLoading();
 void MeasureButton();
 void MeasureDial();
 void MeasurePercentBar();
+void MeasureFontSelect();
 
 } // namespace bench

@@ -3,13 +3,15 @@
 namespace gallery {
 
 extern const Page kButtonPage;
+extern const Page kComboBoxPage;
 extern const Page kDialPage;
+extern const Page kFontSelectPage;
 extern const Page kPercentBarPage;
 extern const Page kUdlrPage;
 
 const std::vector<const Page*>& Pages() {
-    static const std::vector<const Page*> pages = {&kButtonPage, &kDialPage, &kPercentBarPage,
-                                                   &kUdlrPage};
+    static const std::vector<const Page*> pages = {&kButtonPage, &kDialPage,       &kPercentBarPage,
+                                                   &kUdlrPage,   &kFontSelectPage, &kComboBoxPage};
     return pages;
 }
 

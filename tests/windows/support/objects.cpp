@@ -9,10 +9,9 @@ namespace vorn::test {
 namespace {
 
 constexpr int kWarmUp = 50;
-constexpr int kCycles = 1000;
 // Tables are reused in an order of their own, so a place may move a little without a leak. One
-// object left in ten cycles moves it further.
-constexpr int kTolerance = kCycles / 10;
+// object left in so many cycles moves it further.
+constexpr int kCyclesAnObject = 10;
 constexpr std::size_t kProbes = 2000;
 
 struct Places {
@@ -54,24 +53,24 @@ DWORD Counted(DWORD kind) {
 
 } // namespace
 
-std::string ObjectsLeftBy(const std::function<void()>& cycle) {
+std::string ObjectsLeftBy(const std::function<void()>& cycle, int cycles) {
     for (int i = 0; i < kWarmUp; ++i) {
         cycle();
     }
     const Places before = FindPlaces();
     const DWORD gdi = Counted(GR_GDIOBJECTS);
     const DWORD user = Counted(GR_USEROBJECTS);
-    for (int i = 0; i < kCycles; ++i) {
+    for (int i = 0; i < cycles; ++i) {
         cycle();
     }
     if (Counted(GR_GDIOBJECTS) != gdi || Counted(GR_USEROBJECTS) != user) {
         return "the system counts more or fewer objects than before";
     }
     const Places after = FindPlaces();
-    if (std::abs(after.gdi - before.gdi) > kTolerance) {
+    if (std::abs(after.gdi - before.gdi) > cycles / kCyclesAnObject) {
         return "GDI objects stayed: " + std::to_string(after.gdi - before.gdi) + " places";
     }
-    if (std::abs(after.user - before.user) > kTolerance) {
+    if (std::abs(after.user - before.user) > cycles / kCyclesAnObject) {
         return "USER objects stayed: " + std::to_string(after.user - before.user) + " places";
     }
     return {};

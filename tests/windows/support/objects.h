@@ -6,9 +6,12 @@
 
 namespace vorn::test {
 
-// Runs the cycle a few times to warm up and then 1,000 times. Empty when the process's GDI and USER
-// objects are as many afterwards as before, else what grew. Where the system does not count them,
-// the place of a newly made object in the system's tables tells: it moves when others stay behind.
-std::string ObjectsLeftBy(const std::function<void()>& cycle);
+constexpr int kObjectCycles = 1000;
+
+// Runs the cycle a few times to warm up and then as often as told. Empty when the process's GDI and
+// USER objects are as many afterwards as before, else what grew. Where the system does not count
+// them, the place of a newly made object in the system's tables tells: it moves when others stay
+// behind.
+std::string ObjectsLeftBy(const std::function<void()>& cycle, int cycles = kObjectCycles);
 
 } // namespace vorn::test
