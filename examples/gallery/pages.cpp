@@ -3,13 +3,14 @@
 namespace gallery {
 
 extern const Page kButtonPage;
+extern const Page kCalendarPage;
 extern const Page kDialPage;
 extern const Page kPercentBarPage;
 extern const Page kUdlrPage;
 
 const std::vector<const Page*>& Pages() {
-    static const std::vector<const Page*> pages = {&kButtonPage, &kDialPage, &kPercentBarPage,
-                                                   &kUdlrPage};
+    static const std::vector<const Page*> pages = {&kButtonPage, &kCalendarPage, &kDialPage,
+                                                   &kPercentBarPage, &kUdlrPage};
     return pages;
 }
 
