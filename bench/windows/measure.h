@@ -33,6 +33,7 @@ Function* Ours(const char* name) {
 // What each control measures.
 void MeasureLoading();
 void MeasureButton();
+void MeasureCalendar();
 void MeasurePercentBar();
 
 } // namespace bench

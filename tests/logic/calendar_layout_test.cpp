@@ -1,5 +1,6 @@
 // The year calendar's layout: its panels and cells, every pixel of several sizes.
 #include "date/calendar.h"
+#include "tests/support/almanac.h"
 
 #include <algorithm>
 #include <gtest/gtest.h>
@@ -169,7 +170,8 @@ TEST(CalendarLayout, AgreesOnCellsWithTheirPixels) {
 }
 
 TEST(CalendarLayout, LeadsFromEveryPixelToADayAndBack) {
-    for (const std::uint16_t year : std::vector<std::uint16_t>{0, 1, 1752, 2023, 2024, 9999}) {
+    for (const test::AlmanacYear& almanac : test::kAlmanac) {
+        const std::uint16_t year = almanac.year;
         const Layout layout = MakeLayout({0, 0, 305, 405}, {16, 11});
         int days = 0;
         for (int y = 0; y < 405; ++y) {
@@ -186,7 +188,7 @@ TEST(CalendarLayout, LeadsFromEveryPixelToADayAndBack) {
             }
         }
         // Columns of 14 by rows of 11, none of them cut.
-        const int inYear = year == 1752 ? 355 : year % 4 == 0 ? 366 : 365;
+        const int inYear = year == 1752 ? 355 : almanac.february == 29 ? 366 : 365;
         EXPECT_EQ(days, inYear * 14 * 11) << year;
     }
 }

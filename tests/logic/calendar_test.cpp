@@ -1,5 +1,6 @@
 // The year calendar's days: where they lie, what hosts are told of them, what a press does.
 #include "date/calendar.h"
+#include "tests/support/almanac.h"
 
 #include <array>
 #include <gtest/gtest.h>
@@ -9,47 +10,20 @@ namespace vorn::calendar {
 namespace {
 
 using date::Date;
-
-// Weekdays of the first of each month, 0 for Sunday, by an almanac; 1752 is the year of the change
-// from the Julian to the Gregorian calendar. Year 0 ends with the same Saturday that year 1 begins
-// with.
-const struct {
-    std::uint16_t year;
-    std::array<int, kPanels> firsts;
-    std::uint16_t february;
-} kYears[] = {
-    {0, {5, 1, 2, 5, 0, 3, 5, 1, 4, 6, 2, 4}, 29},
-    {1, {6, 2, 2, 5, 0, 3, 5, 1, 4, 6, 2, 4}, 28},
-    {1752, {3, 6, 0, 3, 5, 1, 3, 6, 2, 0, 3, 5}, 29},
-    {1753, {1, 4, 4, 0, 2, 5, 0, 3, 6, 1, 4, 6}, 28},
-    {2023, {0, 3, 3, 6, 1, 4, 6, 2, 5, 0, 3, 5}, 28},
-    {2024, {1, 4, 5, 1, 3, 6, 1, 4, 0, 2, 5, 0}, 29},
-    {9999, {5, 1, 1, 4, 6, 2, 4, 0, 3, 5, 1, 3}, 28},
-};
-
-// The days of a month in order, from its table row.
-std::vector<std::uint16_t> DaysInOrder(std::uint16_t year, int panel, std::uint16_t february) {
-    const std::uint16_t lengths[] = {31, february, 31, 30, 31, 30, 31, 31, 30, 31, 30, 31};
-    std::vector<std::uint16_t> days;
-    for (std::uint16_t day = 1; day <= lengths[panel]; ++day) {
-        if (year != 1752 || panel != 8 || day <= 2 || day >= 14) {
-            days.push_back(day);
-        }
-    }
-    return days;
-}
+using test::AlmanacYear;
+using test::kAlmanac;
 
 TEST(Calendar, HasItsDaysUnderTheirWeekdays) {
-    for (const auto& [year, firsts, february] : kYears) {
+    for (const AlmanacYear& year : kAlmanac) {
         for (int panel = 0; panel < kPanels; ++panel) {
-            SCOPED_TRACE(testing::Message() << year << ", panel " << panel);
+            SCOPED_TRACE(testing::Message() << year.year << ", panel " << panel);
             std::array<std::uint16_t, kCells> expected{};
-            std::size_t cell = static_cast<std::size_t>(firsts[static_cast<std::size_t>(panel)]);
-            for (const std::uint16_t day : DaysInOrder(year, panel, february)) {
+            std::size_t cell = static_cast<std::size_t>(year.First(panel));
+            for (const std::uint16_t day : year.Days(panel)) {
                 expected[cell] = day;
                 ++cell;
             }
-            const MonthDays days = DaysOf(year, panel);
+            const MonthDays days = DaysOf(year.year, panel);
             for (int index = 0; index < kCells; ++index) {
                 EXPECT_EQ(DayInCell(days, index), expected[static_cast<std::size_t>(index)])
                     << "cell " << index;
@@ -59,13 +33,13 @@ TEST(Calendar, HasItsDaysUnderTheirWeekdays) {
 }
 
 TEST(Calendar, FindsEveryDayInItsCell) {
-    for (const auto& [year, firsts, february] : kYears) {
+    for (const AlmanacYear& year : kAlmanac) {
         for (int panel = 0; panel < kPanels; ++panel) {
-            int cell = firsts[static_cast<std::size_t>(panel)];
-            for (const std::uint16_t day : DaysInOrder(year, panel, february)) {
-                const Date date = {static_cast<std::uint16_t>(panel + 1), day, year};
+            int cell = year.First(panel);
+            for (const std::uint16_t day : year.Days(panel)) {
+                const Date date = {static_cast<std::uint16_t>(panel + 1), day, year.year};
                 EXPECT_EQ(PlaceOf(date), (Place{panel, cell}))
-                    << year << " " << panel << " " << day;
+                    << year.year << " " << panel << " " << day;
                 ++cell;
             }
         }
@@ -203,13 +177,13 @@ TEST(CalendarPress, SelectsThe14thInTheThirdCellOfSeptember1752) {
 }
 
 TEST(CalendarPress, SelectsEveryDayOfEveryYear) {
-    for (const auto& [year, firsts, february] : kYears) {
+    for (const AlmanacYear& year : kAlmanac) {
         for (int panel = 0; panel < kPanels; ++panel) {
-            int cell = firsts[static_cast<std::size_t>(panel)];
-            for (const std::uint16_t day : DaysInOrder(year, panel, february)) {
-                Date selection = {13, 1, year}; // no day, but the year counts
+            int cell = year.First(panel);
+            for (const std::uint16_t day : year.Days(panel)) {
+                Date selection = {13, 1, year.year}; // no day, but the year counts
                 Press(selection, 2031, LargeLayout(), MiddleOf(panel, cell));
-                EXPECT_EQ(selection, (Date{static_cast<std::uint16_t>(panel + 1), day, year}));
+                EXPECT_EQ(selection, (Date{static_cast<std::uint16_t>(panel + 1), day, year.year}));
                 ++cell;
             }
         }
