@@ -15,6 +15,7 @@
 #include <vorn32/library.h>
 
 /* What VCALM_GETDATE tells of a date. */
+/* NOLINTNEXTLINE(modernize-use-using): C has no other way */
 typedef struct VORNCALENDARDATE {
     WORD month;
     WORD day;

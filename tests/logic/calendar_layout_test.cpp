@@ -128,6 +128,7 @@ const Sizes kSizes[] = {
     {308, 382, {16, 11}}, {620, 390, {16, 11}}, {211, 377, {20, 14}}, {320, 200, {16, 11}},
     {62, 122, {16, 11}},  {100, 90, {16, 11}},  {29, 400, {16, 11}},  {26, 400, {16, 11}},
     {400, 12, {16, 11}},  {400, 5, {1, 1}},     {40, 40, {1, 1}},     {20, 20, {16, 11}},
+    {6, 60, {16, 11}},    {60, 6, {16, 11}},    {3, 40, {1, 1}},      {40, 3, {1, 1}},
     {2, 2, {16, 11}},     {1, 1, {16, 11}},     {0, 0, {16, 11}},     {300, 300, {0, 0}},
     {500, 401, {16, 0}},
 };
@@ -148,6 +149,21 @@ TEST(CalendarLayout, MapsEveryPixelToItsCell) {
             }
         }
         EXPECT_EQ(wrong, 0) << sizes.width << " by " << sizes.height;
+    }
+}
+
+TEST(CalendarLayout, FindsNothingFarOutside) {
+    const Layout layout = MakeLayout({0, 0, 302, 402}, {16, 11});
+    for (int along = 0; along < 402; along += 5) {
+        for (int beyond = 1; beyond < 2000; beyond += 3) {
+            EXPECT_EQ(PlaceAt(layout, {-beyond, along}), kNowhere);
+            EXPECT_EQ(PlaceAt(layout, {along, -beyond}), kNowhere);
+            EXPECT_EQ(PlaceAt(layout, {302 + beyond, along}), kNowhere);
+            EXPECT_EQ(PlaceAt(layout, {along, 402 + beyond}), kNowhere);
+        }
+    }
+    for (const int edge : {-32768, 32767}) {
+        EXPECT_EQ(PlaceAt(layout, {edge, edge}), kNowhere);
     }
 }
 
