@@ -32,13 +32,24 @@ private:
     int saved_ = 0;
 };
 
+// Answers WM_PAINT with `draw(window, offscreen)`, unless the window was destroyed as the paint
+// began. For drawing that runs no host code, such as that of a control without a record.
+template <class Draw>
+LRESULT PaintOffscreen(HWND window, Draw draw) {
+    OffscreenPaint offscreen(window);
+    if (IsWindow(window)) {
+        draw(window, offscreen);
+    }
+    return 0;
+}
+
 // A record's share in PaintWindow.
 struct PaintState {
     bool painting = false;
     bool again = false; // asked to paint while painting
 };
 
-// Answers WM_PAINT with `draw(window, offscreen)`, which may run host code. A host that makes the
+// The same for a control with a record, whose drawing may run host code. A host that makes the
 // control repaint from there would recurse without end; such a repaint is put off until the first
 // has ended. The record type has a PaintState named `paint`.
 template <class Record, class Draw>
@@ -53,12 +64,11 @@ LRESULT PaintWindow(HWND window, Draw draw) {
         return 0;
     }
     record->paint.painting = true;
-    {
-        OffscreenPaint offscreen(window);
+    PaintOffscreen(window, [&](HWND, const OffscreenPaint& offscreen) {
         if (RecordOf<Record>(window) != nullptr) {
             draw(window, offscreen);
         }
-    }
+    });
     record = RecordOf<Record>(window);
     if (record != nullptr) {
         const bool again = record->paint.again;

@@ -5,6 +5,7 @@
 #define VORN32_H
 
 #include <vorn32/button.h>
+#include <vorn32/calendar.h>
 #include <vorn32/combobox.h>
 #include <vorn32/dial.h>
 #include <vorn32/fontselect.h>

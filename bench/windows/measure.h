@@ -37,6 +37,7 @@ Function* Ours(const char* name) {
 void MeasureLoading();
 void MeasureButton();
 void MeasureDial();
+void MeasureCalendar();
 void MeasurePercentBar();
 void MeasureFontSelect();
 

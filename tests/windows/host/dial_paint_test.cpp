@@ -1,11 +1,13 @@
 // What the dial looks like, pixel by pixel.
 #include "tests/windows/host/dial_host.h"
 #include "tests/windows/support/pixels.h"
+#include "tests/windows/support/system_color.h"
 
 #include <cmath>
 
 namespace {
 
+using vorn::test::ChangedSystemColor;
 using vorn::test::DialHost;
 using vorn::test::Difference;
 using vorn::test::Drawing;
@@ -55,21 +57,6 @@ Rows Cut(const Pixels& pixels, const RECT& area, const std::map<COLORREF, char>&
     }
     return cut;
 }
-
-// System colours while a test changes them.
-class ChangedSystemColor {
-public:
-    ChangedSystemColor(int index, COLORREF color) : index_(index), old_(GetSysColor(index)) {
-        SetSysColors(1, &index_, &color);
-    }
-    ~ChangedSystemColor() { SetSysColors(1, &index_, &old_); }
-    ChangedSystemColor(const ChangedSystemColor&) = delete;
-    ChangedSystemColor& operator=(const ChangedSystemColor&) = delete;
-
-private:
-    INT index_;
-    COLORREF old_;
-};
 
 // ---- Corner buttons ----
 

@@ -1,12 +1,14 @@
 // What the percent bar looks like, pixel by pixel.
 #include "tests/windows/support/host_window.h"
 #include "tests/windows/support/pixels.h"
+#include "tests/windows/support/system_color.h"
 
 #include <gtest/gtest.h>
 #include <vorn32.h>
 
 namespace {
 
+using vorn::test::ChangedSystemColor;
 using vorn::test::Difference;
 using vorn::test::Drawing;
 using vorn::test::HostWindow;
@@ -289,21 +291,6 @@ TEST_F(PercentBarPaint, TakesTheParentsBrushAndColors) {
     EXPECT_GT(pixels.Count({0, 0, 300, 1}, kParentBack), 200) << "the frame's outer edge";
     DeleteObject(brush);
 }
-
-// System colours while a test changes them.
-class ChangedSystemColor {
-public:
-    ChangedSystemColor(int index, COLORREF color) : index_(index), old_(GetSysColor(index)) {
-        SetSysColors(1, &index_, &color);
-    }
-    ~ChangedSystemColor() { SetSysColors(1, &index_, &old_); }
-    ChangedSystemColor(const ChangedSystemColor&) = delete;
-    ChangedSystemColor& operator=(const ChangedSystemColor&) = delete;
-
-private:
-    INT index_;
-    COLORREF old_;
-};
 
 TEST_F(PercentBarPaint, EverySlotFollowsTheSystemColors) {
     for (const int slot : {VORN_COLOR_HIGHLIGHT, VORN_COLOR_SHADOW, VORN_COLOR_FACE,
