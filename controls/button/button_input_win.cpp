@@ -16,12 +16,8 @@ void SendStyle(HWND button, const Action& action) {
     SendMessageA(button, BM_SETSTYLE, action.value, MAKELPARAM(action.redraw, 0));
 }
 
-HWND TabItem(HWND from, bool previous) {
-    return GetNextDlgTabItem(GetParent(from), from, previous);
-}
-
 void FocusTabItem(HWND window, bool previous) {
-    HWND item = TabItem(window, previous);
+    HWND item = GetNextDlgTabItem(GetParent(window), window, previous);
     if (item != nullptr) {
         SetFocus(item);
     }
@@ -142,8 +138,10 @@ void OnSetFocus(HWND window, HWND loser) {
 
 void OnKillFocus(HWND window, HWND gainer) {
     Event event = EventNow(window, EventKind::FocusLost);
+    // The walk is through the tab order of this button's parent, also where it enters a container.
+    HWND parent = GetParent(window);
     HWND heir = DefaultHeir(window, IsButton(gainer), IsButton,
-                            [](HWND item) { return TabItem(item, true); });
+                            [parent](HWND item) { return GetNextDlgTabItem(parent, item, TRUE); });
     event.handsOver = heir != window;
     React(window, event, heir);
 }

@@ -23,7 +23,11 @@ LRESULT OnCreate(HWND window, WPARAM wParam, LPARAM lParam) {
     }
     const DWORD style = StyleOf(window);
     record->state = StateFromStyle(style);
-    SetCaption(record->state, reinterpret_cast<const CREATESTRUCTA*>(lParam)->lpszName);
+    // A template may name an ordinal in place of a text.
+    const auto* create = reinterpret_cast<const CREATESTRUCTA*>(lParam);
+    const char* text =
+        create == nullptr || IS_INTRESOURCE(create->lpszName) ? nullptr : create->lpszName;
+    SetCaption(record->state, text);
     record->strip = LoadPicture(StripOfStyle(style));
     record->hostAppPicture = HasHostAppPicture(style) ? LoadPicture(kHostAppPicture) : nullptr;
     record->font = OrSystemFont(nullptr);

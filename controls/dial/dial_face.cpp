@@ -92,7 +92,7 @@ std::uint8_t ShadeOfPixel(std::int32_t side, Point pixel) {
         light = Mixed(light, kOutline, Beyond(distance, radius - kOutlineWidth));
     }
     const double shade = Mixed(ShadeOfLight(light), kSurroundings, Beyond(distance, radius));
-    return static_cast<std::uint8_t>(shade + 0.5);
+    return static_cast<std::uint8_t>(std::lround(shade));
 }
 
 } // namespace vorn::dial

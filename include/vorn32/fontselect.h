@@ -108,7 +108,7 @@ VORNAPI INT_PTR CALLBACK fnFontSelProc(HWND dialog, UINT message, WPARAM wParam,
  * Adds a family to a font selector; what EnumFontFamilies calls. `window` is the font selector's
  * window. Always 1: go on.
  */
-VORNAPI int CALLBACK EnumFamCallBack(const LOGFONTA *font, const TEXTMETRICA *metrics,
+VORNAPI int CALLBACK EnumFamCallBack(const LOGFONTA* font, const TEXTMETRICA* metrics,
                                      DWORD fontType, LPARAM window);
 
 #ifdef __cplusplus
