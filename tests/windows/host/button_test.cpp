@@ -390,13 +390,4 @@ TEST_F(Button, BearsRandomMessages) {
                                    20000);
 }
 
-TEST(ButtonTitle, GivenAsAnOrdinalIsNone) {
-    vorn::test::HostWindow host;
-    HWND button =
-        CreateWindowExA(0, VORN_BUTTON_CLASS, MAKEINTRESOURCEA(5), WS_CHILD | WS_VISIBLE, 0, 0, 50,
-                        20, host.window(), nullptr, GetModuleHandleA(nullptr), nullptr);
-    ASSERT_NE(button, nullptr);
-    EXPECT_EQ(SendMessageA(button, WM_GETTEXTLENGTH, 0, 0), 0);
-}
-
 } // namespace
