@@ -11,7 +11,7 @@ RT_BITMAP = 2
 SUBFOLDER = 0x80000000
 BITMAPS = {222: ("button20", CELLS["button20"]), 223: ("button16", CELLS["button16"]),
            228: ("hostapp", CELLS["hostapp"]),
-           **{int(cell[:3]): (name, [cell]) for name in ("pad", "fontmark")
+           **{int(cell.split("-")[0]): (name, [cell]) for name in ("pad", "fontmark", "yeararrow")
               for cell in CELLS[name]}}
 
 image = pathlib.Path(sys.argv[1]).read_bytes()

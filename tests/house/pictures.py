@@ -11,7 +11,7 @@ LETTERS = {
     "R": "FF0000", "g": "008000", "G": "00FF00", "o": "808000", "Y": "FFFF00", "n": "000080",
     "B": "0000FF", "p": "800080", "t": "008080", "C": "00FFFF"}
 SIZES = {"button20": (20, 20), "button16": (16, 15), "hostapp": (20, 20), "pad": (29, 29),
-         "fontmark": (16, 12)}
+         "fontmark": (16, 12), "yeararrow": (10, 13)}
 # The cells of each set in the order of their numbers.
 CELLS = {
     "button20": [
@@ -26,7 +26,8 @@ CELLS = {
         "27-record", "28-sort-ascending", "29-filter", "30-calendar", "31-clock"],
     "hostapp": ["00-application"],
     "pad": ["305-rest", "306-up", "307-right", "308-down", "309-left"],
-    "fontmark": ["355-truetype", "356-plain"]}
+    "fontmark": ["355-truetype", "356-plain"],
+    "yeararrow": ["1023-previous", "1025-next"]}
 
 
 def path_of(set_name, cell):
