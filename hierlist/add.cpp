@@ -74,42 +74,35 @@ OlbItem* FollowerByScan(const Outline& outline, const Siblings& siblings, const 
     return sibling;
 }
 
-// The same among siblings in order, by halves. In a detached run these are positions.
-OlbItem* FollowerInRun(const Outline& outline, OlbSeqNode* run, const OlbItem* item) {
-    OlbItem* follower = nullptr;
-    std::uint32_t low = 0;
-    std::uint32_t high = SeqCount(run);
-    while (low < high) {
-        const std::uint32_t middle = low + (high - low) / 2;
-        OlbItem* sibling = SeqAt(run, middle)->item;
-        if (CompareItems(outline, item, sibling) < 0) {
-            follower = sibling;
-            high = middle;
-        } else {
-            low = middle + 1;
-        }
+// The child of a parent, null for the top, that an item below the parent is or is below.
+OlbItem* ChildAbove(const OlbItem* parent, OlbItem* item) {
+    while (item->parent != parent) {
+        item = item->parent;
     }
-    return follower;
+    return item;
 }
 
-// Among rows each half starts from the sibling that a row in the middle is below.
-OlbItem* FollowerInRows(Outline& outline, OlbItem* owner, std::uint32_t low, const OlbItem* item) {
+// The same among siblings in order, in positions [first, end) of a sequence: each row on one way
+// down tells the side by the sibling that it belongs to, which is compared only once.
+OlbItem* FollowerByDescent(const Outline& outline, const OlbItem* owner, OlbSeqNode* root,
+                           std::uint32_t first, std::uint32_t end, const OlbItem* item) {
+    const OlbItem* parent = owner != &outline.top ? owner : nullptr;
+    const OlbItem* leader = nullptr; // the nearest one known to stay in front
     OlbItem* follower = nullptr;
-    std::uint32_t high = RowsEnd(outline, owner);
-    while (low < high) {
-        OlbItem* sibling = IndexToHandle(outline, low + (high - low) / 2);
-        while (OwnerOf(outline, sibling) != owner) {
-            sibling = sibling->parent;
+    SeqFirstBehind(root, [&](const OlbSeqNode* node, std::uint32_t position) {
+        if (position < first || position >= end) {
+            return position >= end;
         }
-        if (CompareItems(outline, item, sibling) < 0) {
-            follower = sibling;
-            high = SeqPosition(sibling->node);
-        } else if (sibling->nextSibling != nullptr) {
-            low = SeqPosition(sibling->nextSibling->node);
-        } else {
-            break;
+        OlbItem* sibling = ChildAbove(parent, node->item);
+        if (sibling != leader && sibling != follower) {
+            if (CompareItems(outline, item, sibling) < 0) {
+                follower = sibling;
+            } else {
+                leader = sibling;
+            }
         }
-    }
+        return sibling == follower;
+    });
     return follower;
 }
 
@@ -118,8 +111,11 @@ OlbItem* FollowerByText(Outline& outline, OlbItem* owner, bool rows, const OlbIt
     if ((owner->marks & kMarkInOrder) == 0) {
         return FollowerByScan(outline, siblings, item);
     }
-    return rows ? FollowerInRows(outline, owner, siblings.FirstRow(), item)
-                : FollowerInRun(outline, owner->detachedRun, item);
+    if (!rows) {
+        return FollowerByDescent(outline, owner, owner->detachedRun, 0, kNoRow, item);
+    }
+    return FollowerByDescent(outline, owner, outline.visibleRoot, siblings.FirstRow(),
+                             RowsEnd(outline, owner), item);
 }
 
 // The same as the host answers, which may do anything meanwhile: null as well when the sibling

@@ -5,13 +5,6 @@
 namespace vorn::hierlist {
 namespace {
 
-bool IsBelowOrSame(const OlbItem* item, const OlbItem* top) {
-    while (item != nullptr && item != top) {
-        item = item->parent;
-    }
-    return item != nullptr;
-}
-
 // Whether an item is one of the first `count` among its siblings.
 bool IsAmongFirst(const OlbItem* owner, const OlbItem* item, std::uint32_t count) {
     if (AreInSequence(owner)) {
