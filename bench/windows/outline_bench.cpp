@@ -48,44 +48,60 @@ const char* ShortText(int item) {
     return text;
 }
 
-void CompareItems(const char* what, TextOfItem textOf) {
+// An outline and a tree view, which keep their items for as long as something is measured: memory
+// that was given back to the heap would be used again, and not be seen to be taken.
+struct Both {
+    Both() {
+        outline.callbacks = &kSideTableOnly;
+        outline.context = &table;
+        SendMessageA(tree, WM_SETREDRAW, FALSE, 0);
+    }
+    ~Both() {
+        DestroyWindow(tree);
+        Destroy(outline);
+        ClearTable(table);
+    }
+    Both(const Both&) = delete;
+    Both& operator=(const Both&) = delete;
+
+    void FillOutline(TextOfItem textOf) {
+        OlbItem* parent = AddChild(outline, nullptr, "");
+        for (int i = 1; i < kItems; ++i) {
+            AddChild(outline, parent, textOf(i));
+        }
+    }
+
+    void FillTree(TextOfItem textOf) const {
+        char empty[] = "";
+        TVINSERTSTRUCTA insert{};
+        insert.hInsertAfter = TVI_LAST;
+        insert.item.mask = TVIF_TEXT;
+        insert.item.pszText = empty;
+        const LRESULT parent = SendMessageA(tree, TVM_INSERTITEMA, 0, LPARAM(&insert));
+        insert.hParent = reinterpret_cast<HTREEITEM>(parent);
+        for (int i = 1; i < kItems; ++i) {
+            insert.item.pszText = const_cast<char*>(textOf(i));
+            SendMessageA(tree, TVM_INSERTITEMA, 0, LPARAM(&insert));
+        }
+    }
+
+    void Compare(const char* what, TextOfItem textOf) {
+        CompareBytes(
+            what, kItems, [&] { FillOutline(textOf); }, [&] { FillTree(textOf); });
+    }
+
     SideTable table;
     Outline outline;
-    outline.callbacks = &kSideTableOnly;
-    outline.context = &table;
     HWND tree = Create(WC_TREEVIEWA, TVS_HASBUTTONS | TVS_HASLINES, 200, 200);
-    SendMessageA(tree, WM_SETREDRAW, FALSE, 0);
-    CompareBytes(
-        what, kItems,
-        [&] {
-            OlbItem* parent = AddChild(outline, nullptr, "");
-            for (int i = 1; i < kItems; ++i) {
-                AddChild(outline, parent, textOf(i));
-            }
-        },
-        [&] {
-            char empty[] = "";
-            TVINSERTSTRUCTA insert{};
-            insert.hInsertAfter = TVI_LAST;
-            insert.item.mask = TVIF_TEXT;
-            insert.item.pszText = empty;
-            const auto parent = SendMessageA(tree, TVM_INSERTITEMA, 0, LPARAM(&insert));
-            insert.hParent = reinterpret_cast<HTREEITEM>(parent);
-            for (int i = 1; i < kItems; ++i) {
-                insert.item.pszText = const_cast<char*>(textOf(i));
-                SendMessageA(tree, TVM_INSERTITEMA, 0, LPARAM(&insert));
-            }
-        });
-    DestroyWindow(tree);
-    Destroy(outline);
-    ClearTable(table);
-}
+};
 
 } // namespace
 
 void MeasureOutline() {
-    CompareItems("outline list: memory an item without text / SysTreeView32", NoText);
-    CompareItems("outline list: memory an item, texts of 11 / SysTreeView32", ShortText);
+    Both first;
+    first.Compare("outline list: memory an item without text / SysTreeView32", NoText);
+    Both second;
+    second.Compare("outline list: memory an item, texts of 11 / SysTreeView32", ShortText);
 }
 
 } // namespace bench

@@ -46,7 +46,7 @@ TEST(OutlineItem, NullTextIsEmpty) {
 
 TEST(OutlineItem, TextFitsTheLargestBlock) {
     TestHost host;
-    const std::size_t longest = 65535 - sizeof(OlbItem) - 4;
+    const std::size_t longest = 65535 - sizeof(OlbItem) - sizeof(OlbSeqNode) - 4;
     const std::string fits(longest, 'x');
     EXPECT_EQ(TextOf(host.Add(nullptr, fits.c_str())), fits);
     host.TakeLog();
