@@ -7,6 +7,7 @@
 #include <cstdio>
 #include <cstring>
 #include <random>
+#include <set>
 #include <string>
 #include <vector>
 
@@ -157,6 +158,34 @@ void BM_AddSortedAmongOpenSiblings(benchmark::State& state) {
                   [&](const char* text) { return AddChild(bench.outline, nullptr, text); });
 }
 
+// The C++ library's own sorted tree with as many texts, to tell what the machine's memory adds to
+// any tree that grows.
+void BM_AddToAMultiset(benchmark::State& state) {
+    Bench bench(state);
+    std::multiset<std::string> set;
+    while (set.size() < bench.size) {
+        set.insert(bench.NextText());
+    }
+    const std::uint32_t batch = bench.size / 10;
+    std::vector<std::string> texts(batch);
+    std::vector<std::multiset<std::string>::iterator> added(batch);
+    while (state.KeepRunningBatch(batch)) {
+        state.PauseTiming();
+        for (std::string& text : texts) {
+            text = bench.NextText();
+        }
+        state.ResumeTiming();
+        for (std::uint32_t i = 0; i < batch; ++i) {
+            added[i] = set.insert(texts[i]);
+        }
+        state.PauseTiming();
+        for (const auto& at : added) {
+            set.erase(at);
+        }
+        state.ResumeTiming();
+    }
+}
+
 void BM_RowToHandle(benchmark::State& state) {
     Bench bench(state);
     bench.outline.style = kStyleSort;
@@ -258,6 +287,7 @@ BENCHMARK(BM_AddUnderAClosedParent)->RangeMultiplier(10)->Range(1'000, 1'000'000
 BENCHMARK(BM_AddSorted)->RangeMultiplier(10)->Range(1'000, 1'000'000);
 BENCHMARK(BM_AddSortedUnderAClosedParent)->RangeMultiplier(10)->Range(1'000, 1'000'000);
 BENCHMARK(BM_AddSortedAmongOpenSiblings)->RangeMultiplier(10)->Range(1'000, 1'000'000);
+BENCHMARK(BM_AddToAMultiset)->RangeMultiplier(10)->Range(1'000, 1'000'000);
 BENCHMARK(BM_RowToHandle)->RangeMultiplier(10)->Range(1'000, 1'000'000);
 BENCHMARK(BM_HandleToRow)->RangeMultiplier(10)->Range(1'000, 1'000'000);
 BENCHMARK(BM_OpenAndClose)->RangeMultiplier(10)->Range(1'000, 1'000'000);
