@@ -164,6 +164,28 @@ TEST(OutlineSideTable, FollowsItsOutline) {
     EXPECT_EQ(recorded.table.count, 1u);
 }
 
+TEST(OutlineSideTable, AddingGoesOnWithoutIt) {
+    for (const std::int32_t allocations : {1, 2}) { // the item; and the list of pages
+        Recorded recorded;
+        static int told;
+        told = 0;
+        recorded.callbacks.errorSpace = [](void*) { ++told; };
+        FailAllocationsAfter(allocations);
+        OlbItem* item = AddChild(recorded.outline, nullptr, "a");
+        FailAllocationsAfter(-1);
+        ASSERT_TRUE(IsItem(item)) << "the parent is told, and the item is there";
+        EXPECT_EQ(told, 1);
+        EXPECT_EQ(recorded.outline.itemCount, 1u);
+        EXPECT_EQ(recorded.table.count, 0u);
+        EXPECT_TRUE(IsItem(AddChild(recorded.outline, nullptr, "b")));
+        EXPECT_EQ(recorded.table.count, 1u);
+        EXPECT_EQ(MoveItem(recorded.outline, item, nullptr, kAppend), item);
+        EXPECT_EQ(recorded.table.count, 2u) << "a move enters it";
+        DeleteItem(recorded.outline, item);
+        EXPECT_EQ(recorded.table.count, 1u);
+    }
+}
+
 // The record with its text's slot, the node and the entry; a page of the table that is not full
 // yet and the lists of pages that were outgrown make less than a byte of difference. On 32-bit
 // Windows 40 of the 144 bytes that an item may take are left for what the system adds to blocks.
