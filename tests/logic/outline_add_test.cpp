@@ -456,6 +456,20 @@ TEST(OutlineAdd, TellsInOrder) {
     EXPECT_EQ(host.TakeLog(), (Lines{"measure b 1", "record b 0", "rows", "redraw all"}));
 }
 
+TEST(OutlineAdd, MeasuresHiddenItemsWithoutARow) {
+    TestHost host;
+    host.outline.compatibilityMode = 0;
+    host.outline.style = kStyleOwnerDrawVariable;
+    host.answerToMeasure = 33;
+    OlbItem* p = host.AddValue(nullptr, 1);
+    host.TakeLog();
+    EXPECT_EQ(host.AddValue(p, 2)->height, 33);
+    EXPECT_EQ(host.TakeLog(), (Lines{"measure 2 -", "redraw row 0"}));
+    EXPECT_EQ(InsertChild(host.outline, p->firstChild, 0, reinterpret_cast<const char*>(3))->height,
+              33);
+    EXPECT_EQ(host.TakeLog(), (Lines{"measure 3 -"}));
+}
+
 TEST(OutlineAdd, MeasuresOnlyVariableHeights) {
     TestHost host;
     host.answerToMeasure = 33;
