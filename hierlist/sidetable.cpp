@@ -14,7 +14,8 @@ constexpr std::uint32_t kLargestBlock = std::numeric_limits<std::uint16_t>::max(
 static_assert(kPageEntries * sizeof(SideEntry) <= kLargestBlock);
 
 // What one block can name: 33 million entries, or 16 million with 64-bit addresses.
-constexpr std::uint32_t kMostPages = kLargestBlock / sizeof(SideEntry*);
+constexpr std::size_t kLinkSize = sizeof(void*);
+constexpr std::uint32_t kMostPages = kLargestBlock / kLinkSize;
 
 SideEntry& EntryAt(const SideTable& table, std::uint32_t index) {
     return table.pages[index / kPageEntries][index % kPageEntries];
@@ -29,13 +30,13 @@ bool MakeRoomForPage(SideTable& table) {
     if (room == table.pageRoom) {
         return false;
     }
-    const std::size_t size = room * sizeof(SideEntry*);
+    const std::size_t size = room * kLinkSize;
     void* block = AllocBlock(nullptr, static_cast<std::uint16_t>(size));
     if (block == nullptr) {
         return false;
     }
     if (table.pageCount != 0) {
-        std::memcpy(block, table.pages, table.pageCount * sizeof(SideEntry*));
+        std::memcpy(block, table.pages, table.pageCount * kLinkSize);
     }
     FreeBlock(nullptr, table.pages);
     table.pages = static_cast<SideEntry**>(block);
