@@ -37,7 +37,7 @@ constexpr std::uint8_t kMarkValue = 8;       // holds a value of the host's inst
 constexpr std::uint8_t kMarkDying = 16;      // taken out, to be freed; no operation takes it
 
 // One row, or what becomes a row when its parents open. Its address is its handle: it never moves.
-// The text follows the record, in the same block.
+// The text follows in the same block, behind the item's node.
 //
 // childCount is what the host sees; of children that were inserted at a position under a hidden
 // parent it knows nothing. The links know all children, and so does linkedChildren.
@@ -60,9 +60,10 @@ struct OlbItem {
     std::uint32_t shownChildren = 0; // all when open; when closed, those that closing did not count
     std::uint32_t unfoldedChildren = 0; // children that themselves have shown children
     std::uint32_t selectedChildren = 0;
+    std::uint32_t sidePlace = 0; // in the side table, from 1 on; 0 when it is not there
     std::uint8_t marks = kMarkInOrder;
 };
-static_assert(sizeof(void*) != 4 || sizeof(OlbItem) == 68);
+static_assert(sizeof(void*) != 4 || sizeof(OlbItem) == 72);
 
 // What operations answer when there is no item to answer; as an argument refused like null.
 inline OlbItem* NoItem() {
