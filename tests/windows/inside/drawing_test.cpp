@@ -153,16 +153,6 @@ TEST(TransparentBitmap, WorksWithOneBitAPixel) {
     }
 }
 
-TEST(TransparentBitmap, SelectedElsewherePaintsNothing) {
-    HBITMAP bitmap = BitmapOf({"rr", "tk"}, kInks);
-    HDC elsewhere = CreateCompatibleDC(nullptr);
-    HGDIOBJ previous = SelectObject(elsewhere, bitmap);
-    EXPECT_EQ(Blitted(bitmap, {0, 0, 4, 4}, {0, 0}), Picture(6, "........"));
-    SelectObject(elsewhere, previous);
-    DeleteDC(elsewhere);
-    DeleteObject(bitmap);
-}
-
 TEST(Painters, LeaveNoObjectsBehind) {
     HBITMAP bitmap = BitmapOf({"rr", "tk"}, kInks);
     HDC screen = GetDC(nullptr);
