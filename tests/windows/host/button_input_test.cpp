@@ -177,6 +177,28 @@ TEST_F(ButtonInput, AFirstPressRepeatsAndItsReleaseLeavesTheTimer) {
     EXPECT_TRUE(TakeTimer(button, kRepeat));
 }
 
+// The press goes by the style before the focus came, its release by the one that it left.
+TEST_F(ButtonInput, AFirstPressTogglesAndItsReleaseIsOfAnOrdinaryButton) {
+    HWND button = Create(VBTS_NOTIFY | VBTS_TOGGLE);
+    EXPECT_EQ(Press(button), (Codes{VBTN_SETFOCUS, VBTN_DOWN, VBTN_CLICKED}));
+    EXPECT_EQ(Release(button), (Codes{VBTN_UP, VBTN_CLICKED}));
+    EXPECT_EQ(btnGetState(button), 8u);
+}
+
+// Handing the default look over clears the toggle bit; what follows still goes by the style before.
+TEST_F(ButtonInput, LosingTheFocusGoesByTheStyleItHadBefore) {
+    HWND first = Create(WS_TABSTOP);
+    HWND toggle = Create(WS_TABSTOP);
+    HWND list = host.Create("LISTBOX", WS_TABSTOP, 0, 100, 50, 20);
+    SetFocus(toggle);
+    SetStyleBits(toggle, VBTS_NOTIFY | VBTS_TOGGLE);
+    KeyDown(toggle, VK_SPACE);
+    EXPECT_EQ(Told([&] { SetFocus(list); }), Codes{VBTN_KILLFOCUS});
+    EXPECT_EQ(StyleBits(toggle), DWORD{VBTS_NOTIFY}) << "the look was handed over";
+    EXPECT_EQ(StyleBits(first) & VBTS_DEFAULT, DWORD{VBTS_DEFAULT});
+    EXPECT_EQ(btnGetState(toggle), 4u) << "a toggle button stays down";
+}
+
 TEST_F(ButtonInput, AToggleButtonWithAutoRepeatClicksByBothRules) {
     HWND button = CreateFocused(VBTS_NOTIFY | VBTS_TOGGLE | VBTS_AUTOREPEAT);
     EXPECT_EQ(Press(button), (Codes{VBTN_DOWN, VBTN_CLICKED, VBTN_CLICKED}));
