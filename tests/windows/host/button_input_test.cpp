@@ -189,11 +189,11 @@ TEST_F(ButtonInput, AFirstPressTogglesAndItsReleaseIsOfAnOrdinaryButton) {
 TEST_F(ButtonInput, LosingTheFocusGoesByTheStyleItHadBefore) {
     HWND first = Create(WS_TABSTOP);
     HWND toggle = Create(WS_TABSTOP);
-    HWND list = host.Create("LISTBOX", WS_TABSTOP, 0, 100, 50, 20);
+    HWND other = host.Create("STATIC", WS_TABSTOP, 0, 100, 50, 20);
     SetFocus(toggle);
     SetStyleBits(toggle, VBTS_NOTIFY | VBTS_TOGGLE);
     KeyDown(toggle, VK_SPACE);
-    EXPECT_EQ(Told([&] { SetFocus(list); }), Codes{VBTN_KILLFOCUS});
+    EXPECT_EQ(Told([&] { SetFocus(other); }), Codes{VBTN_KILLFOCUS});
     EXPECT_EQ(StyleBits(toggle), DWORD{VBTS_NOTIFY}) << "the look was handed over";
     EXPECT_EQ(StyleBits(first) & VBTS_DEFAULT, DWORD{VBTS_DEFAULT});
     EXPECT_EQ(btnGetState(toggle), 4u) << "a toggle button stays down";
