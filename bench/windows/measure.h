@@ -39,6 +39,7 @@ void MeasureButton();
 void MeasureDial();
 void MeasureCalendar();
 void MeasurePercentBar();
+void MeasureUdlr();
 void MeasureFontSelect();
 
 } // namespace bench
