@@ -1,5 +1,6 @@
 // How the picture button answers mouse, keyboard and timers, and what it tells its parent.
 #include "tests/windows/support/button_host.h"
+#include "tests/windows/support/spy.h"
 
 namespace {
 
@@ -25,6 +26,23 @@ TEST_F(ButtonInput, ClicksAtTheRelease) {
     EXPECT_EQ(Release(button), (Codes{VBTN_UP, VBTN_CLICKED}));
     EXPECT_EQ(GetCapture(), nullptr);
     EXPECT_EQ(btnGetState(button), 8u);
+}
+
+TEST_F(ButtonInput, RepaintsWhenItsLookChangesAndOnlyThen) {
+    HWND button = CreateFocused(0);
+    UpdateWindow(button);
+    vorn::test::Spy spy(button);
+    const auto paints = [&] { return spy.Received(WM_PAINT).size(); };
+    Press(button);
+    EXPECT_EQ(paints(), 1u);
+    Move(button, 51);
+    Tick(button, kRepeat);
+    EXPECT_EQ(paints(), 1u) << "still down";
+    Move(button, -1);
+    EXPECT_EQ(paints(), 2u);
+    Move(button, -2);
+    Release(button, -2);
+    EXPECT_EQ(paints(), 2u) << "still up";
 }
 
 TEST_F(ButtonInput, TellsOnlyClicksUnlessAskedForMore) {
