@@ -13,8 +13,25 @@ void FillWithColor(HDC context, const Rect& rect, COLORREF color) {
     FillRect(context, &area, static_cast<HBRUSH>(GetStockObject(DC_BRUSH)));
 }
 
+BITMAPINFO DescribePixels(Size size) {
+    BITMAPINFO info{};
+    info.bmiHeader.biSize = sizeof info.bmiHeader;
+    info.bmiHeader.biWidth = size.width;
+    info.bmiHeader.biHeight = -size.height;
+    info.bmiHeader.biPlanes = 1;
+    info.bmiHeader.biBitCount = 32;
+    return info;
+}
+
+HBITMAP CreatePixels(Size size) {
+    const BITMAPINFO info = DescribePixels(size);
+    void* pixels = nullptr;
+    return CreateDIBSection(nullptr, &info, DIB_RGB_COLORS, &pixels, nullptr, 0);
+}
+
 HBITMAP LoadPicture(WORD id) {
-    return LoadBitmapA(Module(), MAKEINTRESOURCEA(id));
+    return static_cast<HBITMAP>(
+        LoadImageA(Module(), MAKEINTRESOURCEA(id), IMAGE_BITMAP, 0, 0, LR_CREATEDIBSECTION));
 }
 
 TEXTMETRICA MeasureFont(HFONT font) {

@@ -36,6 +36,13 @@ private:
 // Fills with one colour; an empty or inverted rectangle paints nothing.
 void FillWithColor(HDC context, const Rect& rect, COLORREF color);
 
+// Describes 32-bit pixels, 0x00RRGGBB, row by row from the top.
+BITMAPINFO DescribePixels(Size size);
+
+// A bitmap of such pixels, the caller's to delete; null when it cannot be had. It is ready sooner
+// than one that is made to be compatible with a device, which has to be asked for its colours.
+HBITMAP CreatePixels(Size size);
+
 // A bitmap of the library's resources, the caller's to delete; null when it cannot be had.
 HBITMAP LoadPicture(WORD id);
 

@@ -1,5 +1,7 @@
 #include "core/paint_win.h"
 
+#include "core/gdi_win.h"
+
 namespace vorn {
 
 OffscreenPaint::OffscreenPaint(HWND window) : window_(window) {
@@ -11,7 +13,7 @@ OffscreenPaint::OffscreenPaint(HWND window) : window_(window) {
         return;
     }
     memory_ = CreateCompatibleDC(screen);
-    bitmap_ = CreateCompatibleBitmap(screen, width, height);
+    bitmap_ = CreatePixels({width, height});
     if (memory_ == nullptr || bitmap_ == nullptr) {
         DeleteDC(memory_);
         memory_ = nullptr;

@@ -2,105 +2,105 @@
 
 #include "core/gdi_win.h"
 
+#include <algorithm>
+#include <cstddef>
+#include <cstdint>
+
 namespace vorn {
 namespace {
 
-// A memory device context with a bitmap selected; empty when either could not be had.
-class BitmapContext {
-public:
-    BitmapContext(HDC like, HBITMAP bitmap) : context_(CreateCompatibleDC(like)) {
-        previous_ = context_ == nullptr ? nullptr : SelectObject(context_, bitmap);
-    }
-    ~BitmapContext() {
-        if (previous_ != nullptr) {
-            SelectObject(context_, previous_);
-        }
-        if (context_ != nullptr) {
-            DeleteDC(context_);
-        }
-    }
-    BitmapContext(const BitmapContext&) = delete;
-    BitmapContext& operator=(const BitmapContext&) = delete;
+constexpr std::int64_t kMostPixels = std::int64_t{1} << 28; // what a 32-bit process could copy
 
-    HDC get() const { return previous_ == nullptr ? nullptr : context_; }
+// A copy of a bitmap's pixels. Copying them out and in again makes no objects, unlike a mask and
+// memory contexts, whose making takes ten times as long as a small picture.
+class PixelCopy {
+public:
+    PixelCopy(HDC context, HBITMAP bitmap) {
+        BITMAP header{};
+        if (bitmap == nullptr || GetObjectA(bitmap, sizeof header, &header) == 0) {
+            return;
+        }
+        size_ = {header.bmWidth, header.bmHeight};
+        const std::int64_t count = std::int64_t{size_.width} * size_.height;
+        if (count > kMostPixels) {
+            return;
+        }
+        pixels_ = static_cast<std::uint32_t*>(HeapAlloc(
+            GetProcessHeap(), 0, static_cast<std::size_t>(count) * sizeof(std::uint32_t)));
+        BITMAPINFO info = DescribePixels(size_);
+        if (pixels_ != nullptr && GetDIBits(context, bitmap, 0, static_cast<UINT>(size_.height),
+                                            pixels_, &info, DIB_RGB_COLORS) == 0) {
+            Free();
+        }
+    }
+    ~PixelCopy() { Free(); }
+    PixelCopy(const PixelCopy&) = delete;
+    PixelCopy& operator=(const PixelCopy&) = delete;
+
+    bool HasPixels() const { return pixels_ != nullptr; }
+    Size GetSize() const { return size_; }
+
+    // The pixels of a row, 0 the top one: 0x00RRGGBB, beside a byte that means nothing.
+    std::uint32_t* Row(std::int32_t y) const {
+        return pixels_ + static_cast<std::ptrdiff_t>(y) * size_.width;
+    }
 
 private:
-    HDC context_;
-    HGDIOBJ previous_;
-};
-
-// A bitmap of our own, deleted at the end of its scope: declared before the context it is selected
-// into.
-class OwnedBitmap {
-public:
-    explicit OwnedBitmap(HBITMAP bitmap) : bitmap_(bitmap) {}
-    ~OwnedBitmap() {
-        if (bitmap_ != nullptr) {
-            DeleteObject(bitmap_);
+    void Free() {
+        if (pixels_ != nullptr) {
+            HeapFree(GetProcessHeap(), 0, pixels_);
+            pixels_ = nullptr;
         }
     }
-    OwnedBitmap(const OwnedBitmap&) = delete;
-    OwnedBitmap& operator=(const OwnedBitmap&) = delete;
 
-    HBITMAP get() const { return bitmap_; }
-
-private:
-    HBITMAP bitmap_;
+    Size size_;
+    std::uint32_t* pixels_ = nullptr;
 };
 
-struct Piece {
-    HDC context;
-    Point origin;
-    Size size;
-    COLORREF transparent;
-    bool monochrome;
-};
+std::uint32_t ColorOfPixel(std::uint32_t pixel) {
+    return pixel & 0x00FFFFFF;
+}
 
-// Clears everything in `work` but the piece's transparent pixels and those beyond its edge, then
-// puts the piece there: three operations through a mask that is white where the background stays.
-void Merge(HDC work, const Piece& piece) {
-    const auto [width, height] = piece.size;
-    const OwnedBitmap maskBitmap(CreateBitmap(width, height, 1, 1, nullptr));
-    const BitmapContext mask(piece.context, maskBitmap.get());
-    if (mask.get() == nullptr) {
-        return;
+std::uint32_t PixelOfColor(COLORREF color) {
+    return RGB(GetBValue(color), GetGValue(color), GetRValue(color));
+}
+
+// What both rectangles hold; empty or turned inside out when that is nothing.
+Rect Overlap(const Rect& a, const Rect& b) {
+    return {std::max(a.left, b.left), std::max(a.top, b.top), std::min(a.right, b.right),
+            std::min(a.bottom, b.bottom)};
+}
+
+void Replace(const PixelCopy& pixels, const Rect& piece, std::uint32_t from, std::uint32_t to) {
+    for (std::int32_t y = piece.top; y < piece.bottom; ++y) {
+        std::uint32_t* row = pixels.Row(y);
+        for (std::int32_t x = piece.left; x < piece.right; ++x) {
+            row[x] = ColorOfPixel(row[x]) == from ? to : row[x];
+        }
     }
-    PatBlt(mask.get(), 0, 0, width, height, WHITENESS);
-    SetBkColor(piece.context, piece.transparent);
-    // One bit a pixel is copied as it is, so black must be turned to make the mask's white.
-    const bool turn = piece.monochrome && piece.transparent == RGB(0, 0, 0);
-    BitBlt(mask.get(), 0, 0, width, height, piece.context, piece.origin.x, piece.origin.y,
-           turn ? NOTSRCCOPY : SRCCOPY);
-
-    SetBkColor(work, RGB(255, 255, 255));
-    SetTextColor(work, RGB(0, 0, 0));
-    BitBlt(work, 0, 0, width, height, piece.context, piece.origin.x, piece.origin.y, SRCINVERT);
-    BitBlt(work, 0, 0, width, height, mask.get(), 0, 0, SRCAND);
-    BitBlt(work, 0, 0, width, height, piece.context, piece.origin.x, piece.origin.y, SRCINVERT);
 }
 
 } // namespace
 
 void DrawTransparentBitmap(HDC context, const Rect& target, HBITMAP bitmap, Point source,
                            COLORREF background) {
-    BITMAP header{};
-    if (bitmap == nullptr || GetObjectA(bitmap, sizeof header, &header) == 0) {
+    const PixelCopy pixels(context, bitmap);
+    if (!pixels.HasPixels()) {
         return;
     }
-    const BitmapContext from(context, bitmap);
-    if (from.get() == nullptr) {
+    const auto [width, height] = pixels.GetSize();
+    const Rect wanted = {source.x, source.y, source.x + Width(target), source.y + Height(target)};
+    const Rect piece = Overlap(wanted, {0, 0, width, height});
+    FillWithColor(context, target, background);
+    if (Width(piece) <= 0 || Height(piece) <= 0) {
         return;
     }
-    const Size size = {Width(target), Height(target)};
-    const OwnedBitmap workBitmap(CreateCompatibleBitmap(context, size.width, size.height));
-    const BitmapContext work(context, workBitmap.get());
-    if (work.get() == nullptr) {
-        return;
-    }
-    FillWithColor(work.get(), {0, 0, size.width, size.height}, background);
-    Merge(work.get(), {from.get(), source, size, GetPixel(from.get(), 0, header.bmHeight - 1),
-                       header.bmBitsPixel * header.bmPlanes == 1});
-    BitBlt(context, target.left, target.top, size.width, size.height, work.get(), 0, 0, SRCCOPY);
+    Replace(pixels, piece, ColorOfPixel(pixels.Row(height - 1)[0]), PixelOfColor(background));
+    const auto rows = static_cast<UINT>(Height(piece));
+    const BITMAPINFO info = DescribePixels({width, Height(piece)});
+    SetDIBitsToDevice(context, target.left + piece.left - source.x,
+                      target.top + piece.top - source.y, static_cast<DWORD>(Width(piece)), rows,
+                      piece.left, 0, 0, rows, pixels.Row(piece.top), &info, DIB_RGB_COLORS);
 }
 
 } // namespace vorn

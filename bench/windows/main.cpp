@@ -15,6 +15,7 @@ int main() {
     bench::MeasureButton();
     bench::MeasureCalendar();
     bench::MeasurePercentBar();
+    bench::MeasureUdlr();
     bench::MeasureDial();
     bench::MeasureFontSelect();
     return 0;

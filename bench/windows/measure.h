@@ -44,6 +44,7 @@ void MeasureButton();
 void MeasureDial();
 void MeasureCalendar();
 void MeasurePercentBar();
+void MeasureUdlr();
 void MeasureFontSelect();
 void MeasureOutline();
 

@@ -25,7 +25,8 @@
 
 /*
  * The offset of a window word (SetWindowWord) that selects who is sent the scroll messages: the
- * parent when it is 0, as at creation, else the dial itself, for a host that subclasses it.
+ * parent when it is 0, as at creation, else the dial itself, for a host that subclasses it. A class
+ * of the host's own on top of the dial's procedure keeps nothing of its own in these bytes.
  */
 #define VORN_DIAL_RECEIVER 10
 

@@ -1,9 +1,10 @@
-"""The sources of the library's pictures: names, sizes, palettes, transparent corners, and that the
-spin pad's pictures show one pad."""
+"""The sources of the library's pictures: names, sizes, palettes, transparent corners, that they can
+be seen on black and on white, and that the spin pad's pictures show one pad."""
 from pictures import CELLS, FOLDER, LETTERS, SIZES, TRANSPARENT, path_of, rows, strings
 from tree import ROOT, finish
 
 PALETTE = [f"{letter} c #{color}" for letter, color in LETTERS.items()]
+LEAST_CONTRAST = 3  # that graphics need to be seen, by the usual recommendation for accessibility
 PAD_COLORS = {"000000", "808080", "C0C0C0", "FFFFFF"}
 
 
@@ -47,6 +48,28 @@ def colors(set_name, cell):
         yield "an empty cell has a picture, or a picture's cell is empty"
 
 
+def luminance(color):
+    """Relative luminance of an sRGB colour, 0 to 1."""
+    parts = [int(color[i:i + 2], 16) / 255 for i in (0, 2, 4)]
+    linear = [part / 12.92 if part <= 0.04045 else ((part + 0.055) / 1.055) ** 2.4
+              for part in parts]
+    return 0.2126 * linear[0] + 0.7152 * linear[1] + 0.0722 * linear[2]
+
+
+def contrast(color, other):
+    dark, light = sorted((luminance(color), luminance(other)))
+    return (light + 0.05) / (dark + 0.05)
+
+
+def visibility(set_name, cell):
+    """Faces are black or white in the schemes of people who need much contrast."""
+    drawn = [color for row in rows(set_name, cell) for color in row if color != TRANSPARENT]
+    for face in ("000000", "FFFFFF"):
+        seen = [color for color in drawn if contrast(color, face) >= LEAST_CONTRAST]
+        if 8 * len(seen) < len(drawn):
+            yield f"{len(seen)} of {len(drawn)} pixels can be seen on {face}"
+
+
 def direction(x, y):
     """The button under a pixel: the border and the diagonals belong to none."""
     if x in (0, 28) or y in (0, 28) or x in (y, 28 - y):
@@ -70,7 +93,7 @@ def pads():
 findings = list(names())
 if not findings:
     cells = [(set_name, cell) for set_name, cells in CELLS.items() for cell in cells]
-    for check in (form, colors):
+    for check in (form, colors, visibility):
         if not findings:
             findings = [f"{set_name}/{cell}: {what}" for set_name, cell in cells
                         for what in check(set_name, cell)]

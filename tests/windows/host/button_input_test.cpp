@@ -1,5 +1,6 @@
 // How the picture button answers mouse, keyboard and timers, and what it tells its parent.
 #include "tests/windows/support/button_host.h"
+#include "tests/windows/support/spy.h"
 
 namespace {
 
@@ -25,6 +26,23 @@ TEST_F(ButtonInput, ClicksAtTheRelease) {
     EXPECT_EQ(Release(button), (Codes{VBTN_UP, VBTN_CLICKED}));
     EXPECT_EQ(GetCapture(), nullptr);
     EXPECT_EQ(btnGetState(button), 8u);
+}
+
+TEST_F(ButtonInput, RepaintsWhenItsLookChangesAndOnlyThen) {
+    HWND button = CreateFocused(0);
+    UpdateWindow(button);
+    vorn::test::Spy spy(button);
+    const auto paints = [&] { return spy.Received(WM_PAINT).size(); };
+    Press(button);
+    EXPECT_EQ(paints(), 1u);
+    Move(button, 51);
+    Tick(button, kRepeat);
+    EXPECT_EQ(paints(), 1u) << "still down";
+    Move(button, -1);
+    EXPECT_EQ(paints(), 2u);
+    Move(button, -2);
+    Release(button, -2);
+    EXPECT_EQ(paints(), 2u) << "still up";
 }
 
 TEST_F(ButtonInput, TellsOnlyClicksUnlessAskedForMore) {
@@ -175,6 +193,28 @@ TEST_F(ButtonInput, AFirstPressRepeatsAndItsReleaseLeavesTheTimer) {
     EXPECT_EQ(Release(button), (Codes{VBTN_UP, VBTN_CLICKED})) << "as an ordinary button";
     EXPECT_EQ(Tick(button, kRepeat), Codes{}) << "while it is up";
     EXPECT_TRUE(TakeTimer(button, kRepeat));
+}
+
+// The press goes by the style before the focus came, its release by the one that it left.
+TEST_F(ButtonInput, AFirstPressTogglesAndItsReleaseIsOfAnOrdinaryButton) {
+    HWND button = Create(VBTS_NOTIFY | VBTS_TOGGLE);
+    EXPECT_EQ(Press(button), (Codes{VBTN_SETFOCUS, VBTN_DOWN, VBTN_CLICKED}));
+    EXPECT_EQ(Release(button), (Codes{VBTN_UP, VBTN_CLICKED}));
+    EXPECT_EQ(btnGetState(button), 8u);
+}
+
+// Handing the default look over clears the toggle bit; what follows still goes by the style before.
+TEST_F(ButtonInput, LosingTheFocusGoesByTheStyleItHadBefore) {
+    HWND first = Create(WS_TABSTOP);
+    HWND toggle = Create(WS_TABSTOP);
+    HWND other = host.Create("STATIC", WS_TABSTOP, 0, 100, 50, 20);
+    SetFocus(toggle);
+    SetStyleBits(toggle, VBTS_NOTIFY | VBTS_TOGGLE);
+    KeyDown(toggle, VK_SPACE);
+    EXPECT_EQ(Told([&] { SetFocus(other); }), Codes{VBTN_KILLFOCUS});
+    EXPECT_EQ(StyleBits(toggle), DWORD{VBTS_NOTIFY}) << "the look was handed over";
+    EXPECT_EQ(StyleBits(first) & VBTS_DEFAULT, DWORD{VBTS_DEFAULT});
+    EXPECT_EQ(btnGetState(toggle), 4u) << "a toggle button stays down";
 }
 
 TEST_F(ButtonInput, AToggleButtonWithAutoRepeatClicksByBothRules) {

@@ -3,6 +3,7 @@
 #include "tests/windows/support/host_window.h"
 #include "tests/windows/support/input.h"
 #include "tests/windows/support/objects.h"
+#include "tests/windows/support/spy.h"
 
 #include <gtest/gtest.h>
 #include <vector>
@@ -69,6 +70,30 @@ TEST_F(Udlr, HasItsOwnSize) {
         ExpectPlace(pad, 30, 30, 29, 29);
         DestroyWindow(pad);
     }
+}
+
+TEST_F(Udlr, TakingItsSizeKeepsItsPlaceAmongTheOthers) {
+    HWND first = host.Create("STATIC", 0, 10, 20, 29, 29);
+    HWND pad = Create();
+    HWND last = host.Create("STATIC", 0, 10, 20, 29, 29);
+    ASSERT_EQ(GetWindow(first, GW_HWNDNEXT), pad);
+    vorn::test::Spy spy(pad);
+    std::vector<UINT> corrections;
+    spy.before = [&](const Message& message) {
+        if (message.message == WM_WINDOWPOSCHANGING) {
+            const auto* change = reinterpret_cast<const WINDOWPOS*>(message.lParam);
+            if (change->cx == 29 && change->cy == 29) {
+                corrections.push_back(change->flags);
+            }
+        }
+    };
+    SetWindowPos(pad, nullptr, 50, 60, 100, 10, SWP_NOZORDER);
+    ASSERT_EQ(corrections.size(), 1u);
+    EXPECT_EQ(corrections[0] & (SWP_NOMOVE | SWP_NOZORDER | SWP_NOSIZE),
+              UINT{SWP_NOMOVE | SWP_NOZORDER});
+    ExpectPlace(pad, 50, 60, 29, 29);
+    EXPECT_EQ(GetWindow(pad, GW_HWNDPREV), first);
+    EXPECT_EQ(GetWindow(pad, GW_HWNDNEXT), last);
 }
 
 TEST_F(Udlr, HasRoomForItsBorder) {

@@ -60,23 +60,26 @@ TEST(FramePainters, OutlineHasAllFourSides) {
     EXPECT_EQ(painted, expected);
 }
 
-// A bitmap of letters: the colours of the map, transparent where its bottom-left letter occurs.
-HBITMAP BitmapOf(const Picture& picture, const std::map<char, COLORREF>& colors) {
-    const int width = static_cast<int>(picture[0].size());
-    const int height = static_cast<int>(picture.size());
-    HDC screen = GetDC(nullptr);
-    HBITMAP bitmap = CreateCompatibleBitmap(screen, width, height);
-    HDC context = CreateCompatibleDC(screen);
-    ReleaseDC(nullptr, screen);
+// Paints letters in the colours of the map on a bitmap.
+void PaintLetters(HBITMAP bitmap, const Picture& picture, const std::map<char, COLORREF>& colors) {
+    HDC context = CreateCompatibleDC(nullptr);
     HGDIOBJ previous = SelectObject(context, bitmap);
-    for (int y = 0; y < height; ++y) {
-        for (int x = 0; x < width; ++x) {
-            SetPixel(context, x, y,
-                     colors.at(picture[static_cast<std::size_t>(y)][static_cast<std::size_t>(x)]));
+    for (std::size_t y = 0; y < picture.size(); ++y) {
+        for (std::size_t x = 0; x < picture[y].size(); ++x) {
+            SetPixel(context, static_cast<int>(x), static_cast<int>(y), colors.at(picture[y][x]));
         }
     }
     SelectObject(context, previous);
     DeleteDC(context);
+}
+
+// A bitmap of letters, of the screen's kind.
+HBITMAP BitmapOf(const Picture& picture, const std::map<char, COLORREF>& colors) {
+    HDC screen = GetDC(nullptr);
+    HBITMAP bitmap = CreateCompatibleBitmap(screen, static_cast<int>(picture[0].size()),
+                                            static_cast<int>(picture.size()));
+    ReleaseDC(nullptr, screen);
+    PaintLetters(bitmap, picture, colors);
     return bitmap;
 }
 
@@ -141,6 +144,58 @@ TEST(TransparentBitmap, ShowsTheBackgroundBeyondTheEdge) {
     DeleteObject(bitmap);
 }
 
+TEST(TransparentBitmap, ShowsTheBackgroundBeforeItsFirstPixel) {
+    HBITMAP bitmap = BitmapOf({"rg", "tk"}, kInks);
+    EXPECT_EQ(Blitted(bitmap, {1, 1, 5, 5}, {-1, -2}), (Picture{
+                                                           "........",
+                                                           ".bbbb...",
+                                                           ".bbbb...",
+                                                           ".brgb...",
+                                                           ".bbkb...",
+                                                           "........",
+                                                       }));
+    DeleteObject(bitmap);
+}
+
+// Whatever program drew it: all depths with the inks in a table where there is one, both ways up.
+TEST(TransparentBitmap, WorksWithBitmapsOfEveryKind) {
+    struct {
+        BITMAPINFOHEADER header;
+        RGBQUAD inks[256];
+    } info = {{}, {{255, 0, 255, 0}, {0, 0, 255, 0}, {0, 255, 0, 0}, {0, 0, 0, 0}}};
+    for (const WORD depth : {WORD{4}, WORD{8}, WORD{16}, WORD{24}, WORD{32}}) {
+        for (const LONG height : {4, -4}) {
+            info.header = {sizeof info.header, 4, height, 1, depth, BI_RGB, 0, 0, 0, 0, 0};
+            void* bits = nullptr;
+            HBITMAP bitmap = CreateDIBSection(nullptr, reinterpret_cast<const BITMAPINFO*>(&info),
+                                              DIB_RGB_COLORS, &bits, nullptr, 0);
+            PaintLetters(bitmap, {"trrk", "rttg", "rtgg", "tkkr"}, kInks);
+            EXPECT_EQ(Blitted(bitmap, {2, 1, 6, 5}, {0, 0}), (Picture{
+                                                                 "........",
+                                                                 "..brrk..",
+                                                                 "..rbbg..",
+                                                                 "..rbgg..",
+                                                                 "..bkkr..",
+                                                                 "........",
+                                                             }))
+                << depth << " bits a pixel, height " << height;
+            DeleteObject(bitmap);
+        }
+    }
+}
+
+TEST(TransparentBitmap, LooksAtColorsAlone) {
+    // Two pixels of one colour; the fourth byte of the first is no part of it.
+    const DWORD pixels[] = {0x80FF00FF, 0x00FF00FF};
+    BITMAPINFO info{};
+    info.bmiHeader = {sizeof info.bmiHeader, 2, 1, 1, 32, BI_RGB, 0, 0, 0, 0, 0};
+    void* bits = nullptr;
+    HBITMAP bitmap = CreateDIBSection(nullptr, &info, DIB_RGB_COLORS, &bits, nullptr, 0);
+    CopyMemory(bits, pixels, sizeof pixels);
+    EXPECT_EQ(Blitted(bitmap, {0, 0, 2, 1}, {0, 0})[0], "bb......");
+    DeleteObject(bitmap);
+}
+
 TEST(TransparentBitmap, WorksWithOneBitAPixel) {
     for (const bool blackIsTransparent : {true, false}) {
         // Two columns: the left one set (white), the right one clear (black), or turned.
@@ -151,16 +206,6 @@ TEST(TransparentBitmap, WorksWithOneBitAPixel) {
         EXPECT_EQ(painted[0], blackIsTransparent ? "b......." : "bk......");
         DeleteObject(bitmap);
     }
-}
-
-TEST(TransparentBitmap, SelectedElsewherePaintsNothing) {
-    HBITMAP bitmap = BitmapOf({"rr", "tk"}, kInks);
-    HDC elsewhere = CreateCompatibleDC(nullptr);
-    HGDIOBJ previous = SelectObject(elsewhere, bitmap);
-    EXPECT_EQ(Blitted(bitmap, {0, 0, 4, 4}, {0, 0}), Picture(6, "........"));
-    SelectObject(elsewhere, previous);
-    DeleteDC(elsewhere);
-    DeleteObject(bitmap);
 }
 
 TEST(Painters, LeaveNoObjectsBehind) {

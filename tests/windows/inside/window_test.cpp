@@ -112,5 +112,57 @@ TEST(NotifyParent, CarriesIdentifierCodeAndWindow) {
     EXPECT_EQ(reinterpret_cast<HWND>(received.lParam), control);
 }
 
+// A tab item beside a container, and one in a container within it.
+class FocusInContainers : public testing::Test {
+protected:
+    HostWindow host;
+    HWND outside = host.Create("EDIT", WS_TABSTOP, 0, 0, 50, 20);
+    HWND outer = host.Create("STATIC", 0, 0, 30, 200, 100);
+    HWND inner = Create("STATIC", outer);
+    HWND inside = Create("EDIT", inner);
+
+    static HWND Create(const char* className, HWND parent) {
+        return CreateWindowExA(0, className, "", WS_CHILD | WS_VISIBLE | WS_TABSTOP, 0, 0, 50, 20,
+                               parent, nullptr, GetModuleHandleA(nullptr), nullptr);
+    }
+    static void MakeContainer(HWND window) {
+        SetWindowLongA(window, GWL_EXSTYLE,
+                       GetWindowLongA(window, GWL_EXSTYLE) | WS_EX_CONTROLPARENT);
+        SetWindowLongA(window, GWL_STYLE, GetWindowLongA(window, GWL_STYLE) & ~WS_TABSTOP);
+    }
+    HWND FocusAfter(bool previous) {
+        SetFocus(inside);
+        FocusTabItem(inside, previous);
+        return GetFocus();
+    }
+};
+
+TEST_F(FocusInContainers, LeavesThemHoweverDeep) {
+    MakeContainer(outer);
+    MakeContainer(inner);
+    EXPECT_EQ(FocusAfter(false), outside);
+    EXPECT_EQ(FocusAfter(true), outside);
+}
+
+TEST_F(FocusInContainers, StaysInAParentThatIsNone) {
+    EXPECT_EQ(FocusAfter(false), inside);
+    MakeContainer(outer);
+    EXPECT_EQ(FocusAfter(false), inside) << "its own parent is none";
+    HWND sibling = Create("EDIT", inner);
+    EXPECT_EQ(FocusAfter(false), sibling);
+    EXPECT_EQ(FocusAfter(true), sibling);
+}
+
+TEST_F(FocusInContainers, EndsAtATopLevelWindowThatHasAnOwner) {
+    HWND dialog =
+        CreateWindowExA(WS_EX_CONTROLPARENT, "STATIC", "", WS_POPUP | WS_VISIBLE, 0, 0, 200, 100,
+                        host.window(), nullptr, GetModuleHandleA(nullptr), nullptr);
+    inside = Create("EDIT", dialog);
+    HWND sibling = Create("EDIT", dialog);
+    EXPECT_EQ(FocusAfter(false), sibling);
+    EXPECT_EQ(FocusAfter(true), sibling);
+    DestroyWindow(dialog);
+}
+
 } // namespace
 } // namespace vorn
