@@ -255,6 +255,26 @@ TEST_F(ButtonDialog, ARunReachesIntoAContainer) {
     dialog.Run(host.window());
 }
 
+TEST_F(ButtonDialog, ARunReachesThroughAContainer) {
+    ScriptedDialog dialog({
+        {kEdit, "EDIT", kTab},
+        {kFirst, VORN_BUTTON_CLASS, kTab},
+        kContainer,
+        {kSystem, "BUTTON", kTab, 0, kBox},
+        {kLast, VORN_BUTTON_CLASS, kTab, 0, kBox},
+        {kSecond, VORN_BUTTON_CLASS, kTab},
+        {kNote, "EDIT", kTab},
+    });
+    Focus(dialog, kLast);
+    dialog.PressKey(VK_TAB);
+    dialog.ExpectFocus(kSecond);
+    dialog.ExpectDefaults({kSecond});
+    dialog.PressKey(VK_TAB);
+    dialog.ExpectFocus(kNote);
+    dialog.ExpectDefaults({kFirst}); // kSecond, kLast, kSystem, kFirst: then comes an edit
+    dialog.Run(host.window());
+}
+
 TEST_F(ButtonDialog, ARunInAContainerIsOfItsItems) {
     ScriptedDialog dialog({
         {kOk, "BUTTON", kTab},
