@@ -15,11 +15,13 @@
 #include "core/platform_win.h"
 
 #include <array>
-#include <span>
 
 namespace vorn::edit {
 
-constexpr std::size_t kShownTextSize = 64; // the longest text of an edit, with its terminator
+// Holds the longest text of an edit, with its terminator.
+constexpr std::size_t kShownTextSize = 64;
+using TextBuffer = char[kShownTextSize];
+
 constexpr std::size_t kDigitPictureCount = 3;
 
 // Window style bits that all edits have.
@@ -56,7 +58,7 @@ struct EditKind {
     EditBody* (*bodyOf)(HWND window);
 
     // Writes the text as it is shown and edited, cut to the buffer and terminated.
-    void (*writeText)(const EditBody& body, std::span<char> buffer);
+    void (*writeText)(const EditBody& body, TextBuffer& buffer);
 
     // Whether there is no value, whatever the text.
     bool (*isNull)(const EditBody& body);
@@ -120,7 +122,7 @@ public:
 private:
     ScreenContext screen_;
     SavedContext saved_{screen_.get()};
-    char text_[kShownTextSize];
+    TextBuffer text_;
     ShownText shown_;
 };
 

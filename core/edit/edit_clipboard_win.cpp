@@ -76,9 +76,9 @@ bool CopyToClipboard(const EditKind& kind, HWND window) {
     if (body == nullptr || !HasSelection(*body->caret)) {
         return false;
     }
-    char text[kShownTextSize];
+    TextBuffer text;
     kind.writeText(*body, text);
-    char selected[kShownTextSize];
+    TextBuffer selected;
     CopySelected(selected, text, *body->caret);
     return SetClipboardText(window, selected);
 }

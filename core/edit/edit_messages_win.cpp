@@ -16,7 +16,7 @@ namespace {
 constexpr LRESULT kDialogCode = 0x8189;
 
 struct ShownCopy {
-    char text[kShownTextSize];
+    TextBuffer text;
     std::size_t length;
 
     ShownCopy(const EditKind& kind, const EditBody& body) {
