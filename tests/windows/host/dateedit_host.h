@@ -4,6 +4,7 @@
 #include "tests/windows/support/edit_host.h"
 
 #include <ostream>
+#include <utility>
 #include <vorn32.h>
 
 namespace vorn::test {
