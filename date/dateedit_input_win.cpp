@@ -95,14 +95,14 @@ void OnPress(HWND window, LPARAM lParam, bool wholeField) {
     }
 }
 
-bool OnKeyDown(HWND window, WPARAM code) {
+bool OnKeyDown(HWND window, WPARAM key) {
     const Record* record = RecordOf<Record>(window);
     if (record == nullptr) {
         return true;
     }
-    const edit::Key key = {static_cast<std::uint32_t>(code), IsKeyDown(VK_CONTROL),
-                           IsKeyDown(VK_MENU), IsKeyDown(VK_SHIFT)};
-    switch (RouteKey(key, record->readOnly)) {
+    const edit::Key pressed = {static_cast<std::uint32_t>(key), IsKeyDown(VK_CONTROL),
+                               IsKeyDown(VK_MENU), IsKeyDown(VK_SHIFT)};
+    switch (RouteKey(pressed, record->readOnly)) {
     case edit::KeyRoute::PassOn:
         return true;
     case edit::KeyRoute::FocusNext:
@@ -115,7 +115,7 @@ bool OnKeyDown(HWND window, WPARAM code) {
         MessageBeep(MB_ICONHAND);
         return false;
     case edit::KeyRoute::Ask:
-        return RunAllowedKey(window, key);
+        return RunAllowedKey(window, pressed);
     }
     return true;
 }
