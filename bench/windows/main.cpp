@@ -14,6 +14,7 @@ int main() {
     bench::MeasureOutline();
     bench::MeasureButton();
     bench::MeasureCalendar();
+    bench::MeasureDateEdit();
     bench::MeasurePercentBar();
     bench::MeasureUdlr();
     bench::MeasureDial();

@@ -43,6 +43,7 @@ void MeasureLoading();
 void MeasureButton();
 void MeasureDial();
 void MeasureCalendar();
+void MeasureDateEdit();
 void MeasurePercentBar();
 void MeasureUdlr();
 void MeasureFontSelect();

@@ -79,10 +79,6 @@ Event EventNow(HWND window, EventKind kind) {
     return {kind, StyleOf(window), ClientRect(window)};
 }
 
-Point PointOf(LPARAM lParam) {
-    return {static_cast<SHORT>(LOWORD(lParam)), static_cast<SHORT>(HIWORD(lParam))};
-}
-
 // Whether a window says that it is a button. Host code may run.
 bool IsButton(HWND window) {
     return IsWindow(window) && (SendMessageA(window, WM_GETDLGCODE, 0, 0) & DLGC_BUTTON) != 0;
