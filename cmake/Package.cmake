@@ -1,6 +1,5 @@
 # What a package of the library holds, for cmake --install. Both architectures go to one prefix: the
 # 32-bit build brings bin/ and lib/, the 64-bit one bin64/ and lib64/, and both the same of the rest.
-include(CMakePackageConfigHelpers)
 
 if(CMAKE_SIZEOF_VOID_P EQUAL 8)
   set(package_suffix 64)
@@ -36,9 +35,10 @@ endif()
 
 set(package_templates ${CMAKE_CURRENT_LIST_DIR}/package)
 set(package_generated ${CMAKE_BINARY_DIR}/package)
-write_basic_package_version_file(${package_generated}/VORN32ConfigVersion.cmake
-                                 COMPATIBILITY SameMajorVersion ARCH_INDEPENDENT)
-configure_file(${package_templates}/README.md.in ${package_generated}/README.md @ONLY)
+# The same of both builds: what CMake writes itself names the architecture.
+foreach(file VORN32ConfigVersion.cmake README.md)
+  configure_file(${package_templates}/${file}.in ${package_generated}/${file} @ONLY)
+endforeach()
 
 install(FILES $<TARGET_FILE:VORN32> DESTINATION bin${package_suffix})
 install(FILES ${import_library} ${msvc_import_library} DESTINATION lib${package_suffix})

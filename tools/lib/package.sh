@@ -20,3 +20,8 @@ write_package() {
   python3 "$root/tools/lib/write_zip.py" "$folder" "$zip" || return 1
   rm -rf "$folder"
 }
+
+# Configures the tests of the package that was written.
+configure_package_tests() {
+  cmake -S "$root/tests/package" -B "$build/package-tests" -G Ninja -D VORN_PACKAGE="$(package_path)"
+}
