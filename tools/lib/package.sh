@@ -21,6 +21,16 @@ write_package() {
   rm -rf "$folder"
 }
 
+# Builds what the package holds and writes it.
+make_package() {
+  local preset
+  for preset in i686 x86_64; do
+    step "building the package's files of $preset" "$build/logs/package-$preset.log" \
+      cmake_build "$preset" vorn_package_files
+  done
+  step "writing the package" "$build/logs/package.log" write_package
+}
+
 # Configures the tests of the package that was written.
 configure_package_tests() {
   cmake -S "$root/tests/package" -B "$build/package-tests" -G Ninja -D VORN_PACKAGE="$(package_path)"
