@@ -64,43 +64,51 @@ static HWND WaitForWindow(const PROCESS_INFORMATION* program) {
     return search.window;
 }
 
-/* 0 when the program showed a control and ended with 0. */
-static int Visit(const PROCESS_INFORMATION* program) {
+/* What is wrong with a program that has been started; null when nothing is. */
+static const char* Watch(const PROCESS_INFORMATION* program) {
     DWORD status = 0;
     HWND window = WaitForWindow(program);
 
     if (!window) {
-        printf("It showed no control.\n");
-        return 2;
+        return "it showed no control";
     }
     PostMessage(window, WM_CLOSE, 0, 0);
     if (WaitForSingleObject(program->hProcess, MOST_MILLISECONDS) != WAIT_OBJECT_0) {
-        printf("It did not end when its window was closed.\n");
-        return 3;
+        return "it did not end when its window was closed";
     }
     GetExitCodeProcess(program->hProcess, &status);
-    if (status != 0) {
-        printf("It ended with %lu.\n", status);
-        return 4;
-    }
-    printf("It came and went.\n");
-    return 0;
+    return status == 0 ? NULL : "it did not end with 0";
 }
 
-int main(int count, char** arguments) {
+static const char* Visit(char* path) {
     STARTUPINFO startup = {0};
     PROCESS_INFORMATION program;
-    int result;
+    const char* wrong;
 
     startup.cb = sizeof startup;
-    if (count != 2 ||
-        !CreateProcess(NULL, arguments[1], NULL, NULL, FALSE, 0, NULL, NULL, &startup, &program)) {
-        printf("usage: visit PROGRAM; the program must be one that can be started.\n");
-        return 1;
+    if (!CreateProcess(path, NULL, NULL, NULL, FALSE, 0, NULL, NULL, &startup, &program)) {
+        return "it could not be started";
     }
-    result = Visit(&program);
-    if (result != 0) {
+    wrong = Watch(&program);
+    if (wrong) {
         TerminateProcess(program.hProcess, 9);
     }
-    return result;
+    CloseHandle(program.hThread);
+    CloseHandle(program.hProcess);
+    return wrong;
+}
+
+int main(int count, char** paths) {
+    int failures = 0;
+    int i;
+
+    for (i = 1; i < count; i++) {
+        const char* wrong = Visit(paths[i]);
+
+        printf("%s: %s.\n", paths[i], wrong ? wrong : "it came and went");
+        fflush(stdout);
+        failures += wrong != NULL;
+    }
+    printf("%d of %d came and went.\n", count - 1 - failures, count - 1);
+    return failures > 0 || count < 2;
 }
