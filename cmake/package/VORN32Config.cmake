@@ -13,6 +13,12 @@ if(NOT CMAKE_SIZEOF_VOID_P)
       "VORN32 needs to know the size of a pointer; enable C or C++ before find_package(VORN32).")
   return()
 endif()
+if("${CMAKE_C_COMPILER_ARCHITECTURE_ID}${CMAKE_CXX_COMPILER_ARCHITECTURE_ID}" MATCHES "ARM")
+  set(VORN32_FOUND FALSE)
+  set(VORN32_NOT_FOUND_MESSAGE
+      "VORN32 is for x86 and x64; build for one of them, which Windows on ARM runs too.")
+  return()
+endif()
 
 get_filename_component(vorn32_root "${CMAKE_CURRENT_LIST_DIR}/.." ABSOLUTE)
 if(CMAKE_SIZEOF_VOID_P EQUAL 8)
