@@ -33,11 +33,13 @@ if(CMAKE_SIZEOF_VOID_P EQUAL 8)
 endif()
 
 set(import_library ${CMAKE_BINARY_DIR}/libVORN32.a)
+# The path that is given as output gets into the names of the library's members.
 add_custom_command(
   OUTPUT ${import_library}
   COMMAND ${VORN_TARGET_TRIPLE}-dlltool --kill-at --input-def ${import_definition}
-          --output-lib ${import_library} --dllname VORN32.dll
+          --output-lib libVORN32.a --dllname VORN32.dll
   DEPENDS ${import_definition}
+  WORKING_DIRECTORY ${CMAKE_BINARY_DIR}
   COMMENT "Making the import library"
   VERBATIM)
 add_custom_target(vorn_import_library ALL DEPENDS ${import_library})
@@ -47,6 +49,7 @@ add_library(vorn_host INTERFACE)
 add_dependencies(vorn_host VORN32 vorn_import_library)
 target_include_directories(vorn_host INTERFACE ${CMAKE_SOURCE_DIR}/include)
 target_link_libraries(vorn_host INTERFACE ${import_library})
+add_library(VORN32::VORN32 ALIAS vorn_host) # the name that a package's users know
 
 add_library(vorn_window_testing STATIC EXCLUDE_FROM_ALL ${window_sources})
 target_compile_definitions(vorn_window_testing PUBLIC VORN32_BUILD VORN_TEST_HOOKS)

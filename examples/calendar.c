@@ -40,6 +40,7 @@ int WINAPI WinMain(HINSTANCE instance, HINSTANCE previous, LPSTR command, int sh
 
     (void)previous;
     (void)command;
+    GetVORNVersion(); /* the calendar itself needs no function: this brings the library in */
     windowClass.lpfnWndProc = MainProc;
     windowClass.hInstance = instance;
     windowClass.lpszClassName = "CalendarHost";

@@ -45,6 +45,7 @@ int WINAPI WinMain(HINSTANCE instance, HINSTANCE previous, LPSTR command, int sh
 
     (void)previous;
     (void)command;
+    GetVORNVersion(); /* the combo box itself needs no function: this brings the library in */
     dialog = CreateDialogIndirect(instance, &box.header, NULL, DialogProc);
     Add(dialog, "EDIT", WS_BORDER | WS_TABSTOP, 10, 22, NAME_ID);
     Add(dialog, VORN_COMBOBOX_CLASS, CBS_DROPDOWNLIST | WS_TABSTOP, 40, 120, COMBO_ID);

@@ -1,9 +1,8 @@
 """The pages hold together: links and pictures exist, and an example shown is the one that compiles."""
 import re
 
-from tree import ROOT, finish, tracked
+from tree import LINK, ROOT, finish, tracked
 
-LINK = re.compile(r"!?\[[^\]]*\]\(([^)#\s]+)[^)]*\)")
 # An example follows the line that names its file.
 EXAMPLE = re.compile(r"`(examples/[\w/.]+)`[^\n]*\n\n```\w+\n(.*?)```", re.DOTALL)
 

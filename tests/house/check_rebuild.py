@@ -1,4 +1,4 @@
-"""The same sources give the same DLL, byte by byte, also in another folder.
+"""The same sources give the same DLL and import libraries, byte by byte, also in another folder.
 Usage: check_rebuild.py DLL PRESET WORK_FOLDER"""
 import pathlib
 import shutil
@@ -23,8 +23,8 @@ def run(*command):
 
 
 run("cmake", "--preset", preset, "-DBUILD_TESTING=OFF")
-run("cmake", "--build", "--preset", preset, "--target", "VORN32")
-second = source / "build" / preset / "VORN32.dll"
-same = second.read_bytes() == dll.read_bytes()
+run("cmake", "--build", "--preset", preset, "--target", "vorn_package_files")
+others = [name for name in ("VORN32.dll", "libVORN32.a", "VORN32.lib")
+          if (source / "build" / preset / name).read_bytes() != (dll.parent / name).read_bytes()]
 shutil.rmtree(work, ignore_errors=True)
-finish([] if same else ["a second build of the same sources gave another DLL"])
+finish([f"a second build of the same sources gave another {name}" for name in others])

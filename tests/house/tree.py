@@ -1,10 +1,14 @@
 """The project's files, as the checks see them."""
 import pathlib
+import re
 import subprocess
 import sys
 
 ROOT = pathlib.Path(__file__).resolve().parents[2]
 LIBRARY_FOLDERS = ("core", "controls", "date", "numeric", "timeedit", "fontselect", "hierlist")
+
+# What a page links to or shows.
+LINK = re.compile(r"!?\[[^\]]*\]\(([^)#\s]+)[^)]*\)")
 
 
 def tracked(*suffixes):

@@ -1,0 +1,3 @@
+module vorn32host
+
+go 1.19
