@@ -142,7 +142,7 @@ void RunCommand(Actions& actions, NumberEntry& entry, KeyCommand command) {
 
 } // namespace
 
-edit::KeyRoute RouteKey(const edit::Key& key, bool readOnly) {
+edit::KeyRoute RouteNumberKey(const edit::Key& key, bool readOnly) {
     if (key.code == kKeyTab && !key.control && !key.alt) {
         return key.shift ? edit::KeyRoute::FocusPrevious : edit::KeyRoute::FocusNext;
     }
