@@ -83,12 +83,12 @@ void CopyNumberText(std::span<char> buffer, const NumberEntry& entry) {
 }
 
 void PasteText(Actions& actions, NumberEntry& entry, const char* text) {
+    KeepCaretInText(entry);
     const Draft pasted = ReadPasted(entry.settings, text);
     if (!Converts(entry.settings, pasted)) {
         Append(actions, {ActionKind::Beep});
         return;
     }
-    KeepCaretInText(entry);
     Draft draft = StartDraft(entry);
     for (std::int32_t index = 0; index < pasted.length; ++index) {
         PutIn(draft, pasted.text[index]);

@@ -160,6 +160,7 @@ edit::KeyRoute RouteNumberKey(const edit::Key& key, bool readOnly) {
 Actions RunKey(NumberEntry& entry, const edit::Key& key, bool allowed) {
     Actions actions;
     entry.padDecimal = key.code == kKeyPadDecimal;
+    KeepCaretInText(entry);
     if (!allowed) {
         Append(actions, {ActionKind::Beep});
         return actions;
@@ -169,7 +170,6 @@ Actions RunKey(NumberEntry& entry, const edit::Key& key, bool allowed) {
         Append(actions, {ActionKind::PassOn});
         return actions;
     }
-    KeepCaretInText(entry);
     if (command == KeyCommand::StepUp || command == KeyCommand::StepDown) {
         actions = StepByKey(entry, command == KeyCommand::StepUp);
         if (actions.count == 0) {

@@ -42,27 +42,23 @@ void AppendKillTimer(SpinActions& actions, SpinState& state) {
 SpinActions Press(SpinState& state, SpinButton button) {
     SpinActions actions;
     AppendKillTimer(actions, state);
-    state = {button, true, kDelayTimer, 0};
-    Append(actions, {SpinActionKind::Capture});
-    Append(actions, {SpinActionKind::HideCaret});
-    Append(actions, {SpinActionKind::StartDelay});
+    state = {button, kDelayTimer, 0};
+    Append(actions, {SpinActionKind::BeginPress});
+    Append(actions, {SpinActionKind::StartTimer, kDelayTimer});
     Append(actions, {SpinActionKind::TakeFocus});
     Append(actions, {SpinActionKind::Redraw});
     Append(actions, {SpinActionKind::AskAndStep});
     return actions;
 }
 
-SpinActions EndPress(SpinState& state, bool haveCapture) {
+SpinActions End(SpinState& state) {
     SpinActions actions;
-    if (!state.captured) {
+    if (state.pressed == SpinButton::None) {
         return actions;
     }
     AppendKillTimer(actions, state);
     state = {};
-    if (haveCapture) {
-        Append(actions, {SpinActionKind::ReleaseCapture});
-    }
-    Append(actions, {SpinActionKind::ShowCaret});
+    Append(actions, {SpinActionKind::EndPress});
     Append(actions, {SpinActionKind::Redraw});
     return actions;
 }
@@ -76,7 +72,7 @@ SpinActions Tick(SpinState& state, std::uint32_t timer) {
         ++state.repeatCount;
         AppendKillTimer(actions, state);
         state.timer = kRepeatTimer;
-        Append(actions, {SpinActionKind::StartRepeat});
+        Append(actions, {SpinActionKind::StartTimer, kRepeatTimer});
     } else if (timer == state.timer) {
         Append(actions, {SpinActionKind::AskAndStep});
     }
@@ -86,7 +82,8 @@ SpinActions Tick(SpinState& state, std::uint32_t timer) {
 } // namespace
 
 SpinButton SpinButtonAt(const Rect& client, Point point) {
-    if (!Contains(client, point) || point.x < client.right - SpinWidth(Height(client))) {
+    const std::int32_t width = edit::RightPartWidth(Height(client), kSpinEighths);
+    if (!Contains(client, point) || point.x < client.right - width) {
         return SpinButton::None;
     }
     return point.y <= client.bottom / 2 ? SpinButton::Up : SpinButton::Down;
@@ -107,14 +104,8 @@ SpinActions Step(SpinState& state, const SpinEvent& event) {
     switch (event.kind) {
     case SpinEventKind::Press:
         return Press(state, event.button);
-    case SpinEventKind::CaptureChanged:
-        if (event.captureOwner != CaptureOwner::Self) {
-            return EndPress(state, false);
-        }
-        break;
-    case SpinEventKind::Release:
-    case SpinEventKind::Hide:
-        return EndPress(state, true);
+    case SpinEventKind::End:
+        return End(state);
     case SpinEventKind::Timer:
         return Tick(state, event.timer);
     }
@@ -123,11 +114,9 @@ SpinActions Step(SpinState& state, const SpinEvent& event) {
 
 bool IsStale(const SpinState& state, const SpinAction& action) {
     switch (action.kind) {
-    case SpinActionKind::StartDelay:
-        return state.timer != kDelayTimer;
-    case SpinActionKind::StartRepeat:
-        return state.timer != kRepeatTimer;
-    case SpinActionKind::HideCaret:
+    case SpinActionKind::StartTimer:
+        return state.timer != action.timer;
+    case SpinActionKind::BeginPress:
     case SpinActionKind::TakeFocus:
     case SpinActionKind::AskAndStep:
         return state.pressed == SpinButton::None;

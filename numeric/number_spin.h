@@ -1,7 +1,7 @@
 // The spin buttons at the right edge of the numeric edit, and their steps.
 #pragma once
 
-#include "core/geometry.h"
+#include "core/edit/edit_layout.h"
 #include "core/steps.h"
 #include "numeric/number_entry.h"
 
@@ -11,10 +11,8 @@ namespace vorn::numeric {
 
 enum class SpinButton : std::uint8_t { None, Up, Down };
 
-// How wide the spin area is in a client area of this height, in pixels.
-constexpr std::int32_t SpinWidth(std::int32_t clientHeight) {
-    return clientHeight * 5 / 8;
-}
+// The spin area takes so many eighths of the client area's height from its width.
+constexpr std::int32_t kSpinEighths = 5;
 
 // The button at a point of the client area, when the buttons are shown: the upper one down to half
 // the height, inclusive.
@@ -36,35 +34,29 @@ constexpr std::uint32_t kDelay = 1000; // milliseconds
 
 struct SpinState {
     SpinButton pressed = SpinButton::None;
-    bool captured = false;
     std::uint16_t timer = 0; // kDelayTimer or kRepeatTimer while it runs, else 0
     std::uint16_t repeatCount = 0;
 };
 
 enum class SpinEventKind : std::uint8_t {
     Press, // `button`
-    Release,
-    CaptureChanged, // `captureOwner`
-    Timer,          // `timer`
-    Hide,           // the buttons are no longer shown
+    // The button came up, the capture went to another window, or the buttons are no longer shown.
+    End,
+    Timer, // `timer`
 };
 
 struct SpinEvent {
     SpinEventKind kind;
     SpinButton button = SpinButton::None;
-    CaptureOwner captureOwner = CaptureOwner::Nobody;
     std::uint32_t timer = 0;
 };
 
 enum class SpinActionKind : std::uint8_t {
-    Capture,
-    ReleaseCapture,
-    HideCaret,
-    ShowCaret,
-    StartDelay,  // kDelayTimer
-    StartRepeat, // kRepeatTimer
-    KillTimer,   // `timer`
-    TakeFocus,   // unless the control has it
+    BeginPress, // capture the mouse and hide the caret
+    EndPress,
+    StartTimer, // `timer`
+    KillTimer,  // `timer`
+    TakeFocus,  // unless the control has it
     Redraw,
     AskAndStep, // send kAskOkToChange and, if allowed and still pressed, StepByMouse
     PassOn,     // the message, to the default procedure
@@ -77,7 +69,7 @@ struct SpinAction {
     friend constexpr bool operator==(const SpinAction&, const SpinAction&) = default;
 };
 
-using SpinActions = ActionList<SpinAction, 7>;
+using SpinActions = ActionList<SpinAction, 6>;
 
 // Takes the buttons over the event and answers what is to be done.
 SpinActions Step(SpinState& state, const SpinEvent& event);

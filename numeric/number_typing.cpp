@@ -91,7 +91,6 @@ void TypePoint(Actions& actions, NumberEntry& entry, Draft& draft, bool overwrit
 }
 
 void Edit(Actions& actions, NumberEntry& entry, char character, bool fromPad, bool overwrite) {
-    KeepCaretInText(entry);
     Draft draft = StartDraft(entry);
     if (IsDigit(character)) {
         TypeDigit(actions, entry, draft, character, overwrite);
@@ -129,6 +128,7 @@ Actions TypeCharacter(NumberEntry& entry, char character, bool overwrite, bool a
     Actions actions;
     const bool fromPad = entry.padDecimal;
     entry.padDecimal = false;
+    KeepCaretInText(entry);
     if (!allowed) {
         Beep(actions);
         return actions;
