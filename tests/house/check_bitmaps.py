@@ -10,7 +10,7 @@ from tree import finish
 RT_BITMAP = 2
 SUBFOLDER = 0x80000000
 BITMAPS = {222: ("button20", CELLS["button20"]), 223: ("button16", CELLS["button16"]),
-           228: ("hostapp", CELLS["hostapp"]),
+           228: ("hostapp", CELLS["hostapp"]), 700: ("spin", CELLS["spin"]),
            **{int(cell[:3]): (name, [cell]) for name in ("pad", "fontmark", "dropdown", "digits13",
                                                      "digits19", "digits26")
               for cell in CELLS[name]}}
