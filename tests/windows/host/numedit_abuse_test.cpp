@@ -224,16 +224,25 @@ TEST_F(NumEditAbuse, BearsRandomMessages) {
 
 TEST_F(NumEditAbuse, LeavesNoObjectsBehind) {
     EXPECT_EQ(vorn::test::ObjectsLeftBy([this] {
-                  HWND edit =
-                      host.Create(VORN_NUMEDIT_CLASS, VNMS_SPIN | VNMS_DIGITS, 0, 0, 90, 24);
+                  HWND edit = host.Create(VORN_NUMEDIT_CLASS, VNMS_SPIN, 0, 0, 90, 24);
                   SetFocus(edit);
-                  nmSetInteger(edit, 12);
                   SendMouse(edit, WM_LBUTTONDOWN, 85, 5);
-                  nmSetDisplayStyle(edit, VNMD_CELLS);
-                  nmSetDisplayStyle(edit, VNMD_DIGITS);
-                  SendMessageA(edit, WM_SYSCOLORCHANGE, 0, 0);
                   DestroyWindow(edit);
               }),
+              "");
+}
+
+TEST_F(NumEditAbuse, OtherLooksLeaveNoObjectsBehind) {
+    HWND edit = host.Create(VORN_NUMEDIT_CLASS, VNMS_SPIN | VNMS_DIGITS, 0, 0, 90, 24);
+    nmSetInteger(edit, 12);
+    EXPECT_EQ(vorn::test::ObjectsLeftBy(
+                  [edit] {
+                      nmSetDisplayStyle(edit, VNMD_CELLS);
+                      nmSetDisplayStyle(edit, VNMD_DIGITS);
+                      nmSetDisplayStyle(edit, VNMD_TEXT);
+                      SendMessageA(edit, WM_SYSCOLORCHANGE, 0, 0);
+                  },
+                  200),
               "");
 }
 
