@@ -42,13 +42,14 @@ void PaintSpinButtons(HDC context, const edit::EditBody& body, const Rect& rect)
     const Record& record = RecordIn(body);
     const bool up = record.spin.pressed == SpinButton::Up;
     const bool down = record.spin.pressed == SpinButton::Down;
+    const std::int32_t left = rect.left + 1;
     const std::int32_t middle = rect.top + Height(rect) / 2;
-    DrawSlices(context, {rect.left, rect.top, rect.right, middle}, record.spinPicture, kSpinColumns,
-               kSpinRows, up ? kPressedCells : 0);
-    DrawSlices(context, {rect.left, middle, rect.right, rect.bottom}, record.spinPicture,
-               kSpinColumns, kSpinRows, down ? kPressedCells + 1 : 1);
-    FillWithColor(context, {rect.left - 1, rect.top, rect.left, rect.bottom},
+    FillWithColor(context, {rect.left, rect.top, left, rect.bottom},
                   GetSysColor(COLOR_WINDOWFRAME));
+    DrawSlices(context, {left, rect.top, rect.right, middle}, record.spinPicture, kSpinColumns,
+               kSpinRows, up ? kPressedCells : 0);
+    DrawSlices(context, {left, middle, rect.right, rect.bottom}, record.spinPicture, kSpinColumns,
+               kSpinRows, down ? kPressedCells + 1 : 1);
 }
 
 void Draw(HWND window, const OffscreenPaint& offscreen) {

@@ -14,6 +14,7 @@ int main() {
     bench::MeasureButton();
     bench::MeasureCalendar();
     bench::MeasureDateEdit();
+    bench::MeasureNumEdit();
     bench::MeasurePercentBar();
     bench::MeasureDial();
     bench::MeasureFontSelect();

@@ -39,6 +39,7 @@ void MeasureButton();
 void MeasureDial();
 void MeasureCalendar();
 void MeasureDateEdit();
+void MeasureNumEdit();
 void MeasurePercentBar();
 void MeasureFontSelect();
 
