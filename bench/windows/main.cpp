@@ -15,6 +15,7 @@ int main() {
     bench::MeasureButton();
     bench::MeasureCalendar();
     bench::MeasureDateEdit();
+    bench::MeasureNumEdit();
     bench::MeasurePercentBar();
     bench::MeasureUdlr();
     bench::MeasureDial();

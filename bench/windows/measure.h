@@ -44,6 +44,7 @@ void MeasureButton();
 void MeasureDial();
 void MeasureCalendar();
 void MeasureDateEdit();
+void MeasureNumEdit();
 void MeasurePercentBar();
 void MeasureUdlr();
 void MeasureFontSelect();

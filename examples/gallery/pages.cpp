@@ -8,13 +8,14 @@ extern const Page kCalendarPage;
 extern const Page kDateEditPage;
 extern const Page kDialPage;
 extern const Page kFontSelectPage;
+extern const Page kNumEditPage;
 extern const Page kPercentBarPage;
 extern const Page kUdlrPage;
 
 const std::vector<const Page*>& Pages() {
     static const std::vector<const Page*> pages = {
-        &kButtonPage, &kCalendarPage,   &kComboBoxPage,   &kDateEditPage,
-        &kDialPage,   &kFontSelectPage, &kPercentBarPage, &kUdlrPage};
+        &kButtonPage,     &kCalendarPage, &kComboBoxPage,   &kDateEditPage, &kDialPage,
+        &kFontSelectPage, &kNumEditPage,  &kPercentBarPage, &kUdlrPage};
     return pages;
 }
 

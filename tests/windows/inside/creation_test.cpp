@@ -19,6 +19,7 @@ constexpr Control kControls[] = {
     {VORN_UDLR_CLASS, WS_BORDER},
     {VORN_DIAL_CLASS, WS_TABSTOP},
     {VORN_DATEEDIT_CLASS, VDTS_CALENDAR | VDTS_DIGITS},
+    {VORN_NUMEDIT_CLASS, VNMS_SPIN | VNMS_DIGITS},
 };
 
 TEST(Creation, FailsWithoutMemoryAndLeavesNoBlock) {
