@@ -71,9 +71,9 @@ void Perform(HWND window, const Actions& actions) {
 
 LRESULT OnPress(HWND window, LPARAM lParam) {
     SetFocus(window); // runs host code
-    const Point point = {static_cast<SHORT>(LOWORD(lParam)), static_cast<SHORT>(HIWORD(lParam))};
     date::Date selection = SelectionOf(window);
-    const Actions actions = Press(selection, CurrentYear(), MeasureCalendar(window), point);
+    const Actions actions =
+        Press(selection, CurrentYear(), MeasureCalendar(window), PointOf(lParam));
     if (actions.count != 0) {
         StoreSelection(window, selection);
         Perform(window, actions);

@@ -1,0 +1,14 @@
+// The border of an edit as the window's frame.
+#pragma once
+
+#include "core/edit/edit_body_win.h"
+
+namespace vorn::edit {
+
+// WM_NCCALCSIZE: lParam is a RECT, or a record that begins with one.
+void ShrinkToClient(const EditBody& body, LPARAM lParam);
+
+// WM_NCPAINT.
+void PaintBorder(HWND window, const EditBody& body);
+
+} // namespace vorn::edit
