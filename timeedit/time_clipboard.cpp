@@ -1,6 +1,5 @@
 #include "timeedit/time_clipboard.h"
 
-#include "core/text.h"
 #include "timeedit/time_format.h"
 #include "timeedit/time_parse.h"
 
@@ -127,15 +126,6 @@ void ClearSelection(edit::Actions& actions, TimeEntry& entry) {
         return;
     }
     ZeroText(actions, entry, start, end, IsWholeSuffixSelected(entry, map));
-}
-
-void CopySelection(std::span<char> buffer, const TimeEntry& entry) {
-    const std::int32_t length = FieldMapOf(entry.time).length;
-    TextBuilder selected = StartText(buffer);
-    for (std::int32_t index = entry.caret.selectionStart;
-         index < entry.caret.selectionEnd && index < length; ++index) {
-        Append(selected, entry.time.valueText[index]);
-    }
 }
 
 bool ReadWholeTime(Time& time, const char* text, const Format& format) {

@@ -3,8 +3,6 @@
 
 #include "timeedit/time_entry.h"
 
-#include <span>
-
 namespace vorn::timeedit {
 
 // Makes zeros of the digits from `start` to `end` of a text that is like the value text.
@@ -24,9 +22,6 @@ void DeleteBeforeCaret(edit::Actions& actions, TimeEntry& entry);
 // becomes that of the morning, a part of one stays. With all of the text selected the time becomes
 // null; its numbers stay, for a step to start from. Nothing is done without a selection.
 void ClearSelection(edit::Actions& actions, TimeEntry& entry);
-
-// The selected text, cut to the buffer and terminated.
-void CopySelection(std::span<char> buffer, const TimeEntry& entry);
 
 // Whether a text is a time, and no more: the numbers of hour and minute, and of the second unless
 // it is left out and counts as 0, of one or two digits each, with the separator between and blanks

@@ -37,10 +37,6 @@ void ReadUserFormat(const RegionalProfile& profile, Format& format) {
         static_cast<unsigned char>(separator[0] != '\0' ? separator[0] : kDefaultSeparator[0]);
 }
 
-bool IsUserFormatSection(const char* section) {
-    return section != nullptr && std::strcmp(section, "intl") == 0;
-}
-
 void GetEditParams(const HeldTime& time, EditParams& params) {
     const Format& format = time.format;
     params.setTime = 1;

@@ -11,10 +11,6 @@ namespace vorn::timeedit {
 // the 24-hour form and "PM" in the other. An empty separator counts as missing.
 void ReadUserFormat(const RegionalProfile& profile, Format& format);
 
-// Whether a change of the profile's section of this name, null for any, is for ReadUserFormat: only
-// of "intl", in this spelling.
-bool IsUserFormatSection(const char* section);
-
 // The record in which hosts read and write time and format. Its layout is fixed.
 #pragma pack(push, 1)
 struct EditParams {

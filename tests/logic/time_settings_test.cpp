@@ -92,14 +92,6 @@ TEST(TimeSettings, LeaveTheSeconds) {
     }
 }
 
-TEST(TimeSettings, OnlyTheSectionOfThatSpelling) {
-    EXPECT_TRUE(IsUserFormatSection("intl"));
-    for (const char* section : {"Intl", "INTL", "int", "intl ", ""}) {
-        EXPECT_FALSE(IsUserFormatSection(section)) << section;
-    }
-    EXPECT_FALSE(IsUserFormatSection(nullptr));
-}
-
 constexpr std::uint32_t kUntouched = 0xCDCDCDCD;
 
 EditParams Untouched() {
