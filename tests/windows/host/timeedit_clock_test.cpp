@@ -2,6 +2,7 @@
 #include "tests/windows/support/spy.h"
 #include "tests/windows/support/time_host.h"
 
+#include <algorithm>
 #include <set>
 
 namespace {

@@ -1,6 +1,8 @@
 // The time edit under keyboard and mouse: focus, keys, clipboard, presses, and what it tells.
 #include "tests/windows/support/time_host.h"
 
+#include <algorithm>
+#include <array>
 #include <cstring>
 
 namespace {
@@ -105,6 +107,7 @@ TEST_F(TimeEditInput, ArrowsStepAndMove) {
 
 TEST_F(TimeEditInput, DeletingAllIsNullAndTypingStartsFromZeros) {
     HWND edit = CreateFocused(14, 5, 9);
+    PressKeys({VK_HOME});
     PressKeys({VK_SHIFT, VK_END});
     EXPECT_EQ(SelectionOf(edit), (Selection{0, 11}));
     EXPECT_EQ(Press({VK_DELETE}), kChanged);
@@ -199,6 +202,7 @@ TEST_F(TimeEditInput, CopiesCutsAndPastesByKeys) {
     SetClipboard("before");
     EXPECT_EQ(Press({VK_CONTROL, 'C'}), (Heard{"ask", "changed"}));
     EXPECT_EQ(ClipboardText(), "02");
+    PressKeys({VK_HOME});
     PressKeys({VK_SHIFT, VK_END});
     EXPECT_EQ(Press({VK_CONTROL, 'X'}), kChanged);
     EXPECT_EQ(ClipboardText(), "02:05:09 PM");
