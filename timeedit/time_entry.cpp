@@ -115,6 +115,7 @@ void ResetCaret(TimeEntry& entry) {
 void EnterFocus(TimeEntry& entry) {
     entry.time.focused = 1;
     FormatValueText(entry.time);
+    ResetCaret(entry);
     SelectFieldOf(entry, 0);
 }
 

@@ -1,4 +1,5 @@
 // The time edit's exported functions.
+#include "core/edit/edit_border_win.h"
 #include "core/edit/edit_caret_win.h"
 #include "core/text.h"
 #include "core/window_win.h"
@@ -8,12 +9,13 @@
 #include "timeedit/time_settings.h"
 #include "timeedit/timeedit_win.h"
 
+#include <bit>
 #include <vorn32/timeedit.h>
 
 namespace vorn::timeedit {
 namespace {
 
-static_assert(sizeof(VORNTIME) == sizeof(Time) && sizeof(VORNTIMEEDITPARAMS) == sizeof(EditParams));
+static_assert(sizeof(TmTime) == sizeof(Time) && sizeof(TmEditParams) == sizeof(EditParams));
 
 UINT NumberOf(HWND window, std::uint16_t Time::*number) {
     const Record* record = RecordOf<Record>(window);
@@ -43,11 +45,6 @@ void ShowNewValue(HWND window, Record& record) {
     TellChanged(window);
 }
 
-// A border's colours show outside of the client area.
-BOOL RedrawWithFrame(HWND window) {
-    return RedrawWindow(window, nullptr, nullptr, RDW_INVALIDATE | RDW_UPDATENOW | RDW_FRAME);
-}
-
 Size LeastSizeOf(const Record& record) {
     return LeastWindowSize(record.figures, kTimeEdit.compactness, record.borderStyle);
 }
@@ -58,26 +55,28 @@ Size LeastSizeOf(const Record& record) {
 using namespace vorn;
 using namespace vorn::timeedit;
 
-extern "C" BOOL WINAPI tmGetEditParams(HWND window, VORNTIMEEDITPARAMS* params) {
+extern "C" BOOL WINAPI tmGetEditParams(HWND window, TmEditParams* params) {
     const Record* record = RecordOf<Record>(window);
     if (record == nullptr || params == nullptr) {
         return 0;
     }
-    GetEditParams(record->entry.time, *reinterpret_cast<EditParams*>(params));
+    EditParams filled = std::bit_cast<EditParams>(*params);
+    GetEditParams(record->entry.time, filled);
+    *params = std::bit_cast<TmEditParams>(filled);
     return 1;
 }
 
-extern "C" BOOL WINAPI tmSetEditParams(HWND window, const VORNTIMEEDITPARAMS* params) {
+extern "C" BOOL WINAPI tmSetEditParams(HWND window, const TmEditParams* params) {
     if (RecordOf<Record>(window) == nullptr || params == nullptr) {
         return 0;
     }
+    const EditParams given = std::bit_cast<EditParams>(*params);
     const RECT area = ToPlatform(edit::TextArea(ClientRect(window), 0));
     const bool allowed = IsOkToChange(kTimeEdit, window);
     Record* record = RecordOf<Record>(window);
     if (record == nullptr) {
         return 0;
     }
-    const auto& given = *reinterpret_cast<const EditParams*>(params);
     if (SetEditParams(record->entry.time, given, allowed)) {
         ResetCaret(record->entry);
     }
@@ -91,7 +90,7 @@ extern "C" BOOL WINAPI tmSetEditParams(HWND window, const VORNTIMEEDITPARAMS* pa
     return 1;
 }
 
-extern "C" BOOL WINAPI tmGetTime(HWND window, VORNTIME* time) {
+extern "C" BOOL WINAPI tmGetTime(HWND window, TmTime* time) {
     const Record* record = RecordOf<Record>(window);
     if (record == nullptr || time == nullptr) {
         return 0;
@@ -113,7 +112,7 @@ extern "C" UINT WINAPI tmGetSecond(HWND window) {
     return NumberOf(window, &Time::second);
 }
 
-extern "C" BOOL WINAPI tmSetTime(HWND window, const VORNTIME* time) {
+extern "C" BOOL WINAPI tmSetTime(HWND window, const TmTime* time) {
     Record* record = time == nullptr ? nullptr : AskToChange(window);
     if (record == nullptr) {
         return 0;
@@ -181,7 +180,7 @@ extern "C" BOOL WINAPI tmSetColor(HWND window, int slot, COLORREF colorCode) {
         return 0;
     }
     SetColorSlot(record->colors, edit::kColorSlots, slot, colorCode);
-    return RedrawWithFrame(window);
+    return edit::RedrawWithBorder(window);
 }
 
 extern "C" BOOL WINAPI tmOkToChange(HWND /*window*/) {

@@ -5,6 +5,7 @@
 #include "core/edit/edit_messages_win.h"
 #include "core/edit/edit_paint_win.h"
 #include "core/edit/field_edit_win.h"
+#include "core/edit/time_record.h"
 #include "core/profile_win.h"
 #include "core/text.h"
 #include "core/window_win.h"
@@ -19,6 +20,9 @@
 namespace vorn::timeedit {
 namespace {
 
+static_assert(VTMM_OKTOCHANGE == edit::kAskOkToChange && VTMM_CHANGED == edit::kTellChanged);
+static_assert(VTMS_DIGITS == edit::kStyleDigits && VTMS_CELLS == edit::kStyleCells &&
+              VTMS_READONLY == edit::kStyleReadOnly);
 static_assert(kValueTextSize == edit::kShownTextSize);
 
 Record& RecordIn(edit::EditBody& body) {
@@ -79,7 +83,7 @@ constexpr edit::Compactness kCompactness = {3, 0};
 
 // The other way round than tmSetBorderStyle writes them.
 constexpr edit::BorderBits kBorderBits = {
-    {{VTES_RAISED, kBorderRaised}, {VTES_SUNKEN, kBorderSunken}, {VTES_LINE, kBorderLine}}};
+    {{VTMS_RAISED, kBorderRaised}, {VTMS_SUNKEN, kBorderSunken}, {VTMS_LINE, kBorderLine}}};
 
 } // namespace
 
@@ -116,7 +120,7 @@ LRESULT OnCreate(HWND window, WPARAM wParam, LPARAM lParam) {
     GetSystemTime(&now);
     HeldTime& time = record->entry.time;
     StoreTime(time, TimeOf(now));
-    time.format.showSeconds = (style & VTES_SECONDS) != 0 ? 1 : 0;
+    time.format.showSeconds = (style & VTMS_SECONDS) != 0 ? 1 : 0;
     ReadUserFormat(kUserProfile, time.format);
     FormatValueText(time);
     ChangeStyle(window, 0, StyleBitsBesides(record->borderStyle));
@@ -173,120 +177,98 @@ void OnTick(HWND window) {
     tmSetTimeString(window, text);
 }
 
-LRESULT OnSetTimeRecord(HWND window, const VORNTIMERECORD* given) {
+void OnSetBrokenDown(HWND window, const edit::TimeRecord* given) {
     if (given != nullptr) {
-        const VORNTIME time = {static_cast<WORD>(given->hour), static_cast<WORD>(given->minute),
-                               static_cast<WORD>(given->second)};
+        const TmTime time = {static_cast<WORD>(given->hours), static_cast<WORD>(given->minutes),
+                             static_cast<WORD>(given->seconds)};
         tmSetTime(window, &time);
     }
-    return 0;
 }
 
-LRESULT OnGetTimeRecord(HWND window, VORNTIMERECORD* asked) {
-    VORNTIME time{};
+void OnGetBrokenDown(HWND window, edit::TimeRecord* asked) {
+    TmTime time{};
     if (asked != nullptr && tmGetTime(window, &time) != 0) {
-        *asked = {time.second, time.minute, time.hour, {}};
+        *asked = {};
+        asked->seconds = time.second;
+        asked->minutes = time.minute;
+        asked->hours = time.hour;
     }
-    return 0;
 }
 
-LRESULT OnGetRecordSize(LONG* size) {
-    constexpr LRESULT kAnswer = 11; // what hosts have always been answered
-    if (size != nullptr) {
-        *size = sizeof(VORNTIMERECORD);
-    }
-    return kAnswer;
-}
-static_assert(sizeof(VORNTIMERECORD) == 36);
-
-// The messages that are the functions' twins, and those beside them.
-bool AnswerPrivateMessage(const edit::EditMessage& message, LRESULT& result) {
+// Messages whose argument is a pointer.
+bool AnswerPointerMessage(const edit::EditMessage& message, LRESULT& result) {
     const HWND window = message.window;
     const LPARAM lParam = message.lParam;
+    result = 0;
     switch (message.message) {
-    case VTEM_GETEDITPARAMS:
-        result = tmGetEditParams(window, reinterpret_cast<VORNTIMEEDITPARAMS*>(lParam));
+    case VTMM_GETEDITPARAMS:
+        result = tmGetEditParams(window, reinterpret_cast<TmEditParams*>(lParam));
         return true;
-    case VTEM_SETEDITPARAMS:
-        result = tmSetEditParams(window, reinterpret_cast<const VORNTIMEEDITPARAMS*>(lParam));
+    case VTMM_SETEDITPARAMS:
+        result = tmSetEditParams(window, reinterpret_cast<const TmEditParams*>(lParam));
         return true;
-    case VTEM_GETTIME:
-        result = tmGetTime(window, reinterpret_cast<VORNTIME*>(lParam));
+    case VTMM_GETTIME:
+        result = tmGetTime(window, reinterpret_cast<TmTime*>(lParam));
         return true;
-    case VTEM_GETHOUR:
-        result = static_cast<LRESULT>(tmGetHour(window));
+    case VTMM_SETTIME:
+        result = tmSetTime(window, reinterpret_cast<const TmTime*>(lParam));
         return true;
-    case VTEM_GETMINUTE:
-        result = static_cast<LRESULT>(tmGetMinute(window));
-        return true;
-    case VTEM_GETSECOND:
-        result = static_cast<LRESULT>(tmGetSecond(window));
-        return true;
-    case VTEM_SETTIME:
-        result = tmSetTime(window, reinterpret_cast<const VORNTIME*>(lParam));
-        return true;
-    case VTEM_SETDISPLAYSTYLE:
-        result = tmSetDisplayStyle(window, static_cast<DWORD>(message.wParam));
-        return true;
-    case VTEM_SETNULL:
-        result = tmSetNull(window);
-        return true;
-    case VTEM_ISNULL:
-        result = tmIsNull(window);
-        return true;
-    case VTEM_GETTIMESTRING:
+    case VTMM_GETTIMESTRING:
         result =
             reinterpret_cast<LRESULT>(tmGetTimeString(window, reinterpret_cast<char*>(lParam)));
         return true;
     case WM_SETTEXT:
-    case VTEM_SETTIMESTRING:
+    case VTMM_SETTIMESTRING:
         result = tmSetTimeString(window, reinterpret_cast<const char*>(lParam));
         return true;
-    case VTEM_GETMINHEIGHT:
-        result = tmGetMinHeight(window);
+    case VTMM_SETBROKENDOWN:
+        OnSetBrokenDown(window, reinterpret_cast<const edit::TimeRecord*>(lParam));
         return true;
-    case VTEM_GETMINWIDTH:
-        result = tmGetMinWidth(window);
+    case VTMM_GETBROKENDOWN:
+        OnGetBrokenDown(window, reinterpret_cast<edit::TimeRecord*>(lParam));
         return true;
-    case VTEM_SETBACKGROUNDCOLOR:
-        result = tmSetColor(window, VORN_COLOR_FACE, static_cast<COLORREF>(lParam));
-        return true;
-    case VTEM_SETTEXTCOLOR:
-        result = tmSetColor(window, VORN_COLOR_TEXT, static_cast<COLORREF>(lParam));
+    case VTMM_GETBROKENDOWNSIZE:
+        result = edit::TellTimeSize(reinterpret_cast<std::uint32_t*>(lParam));
         return true;
     default:
         return false;
     }
 }
 
-bool AnswerRareMessage(const edit::EditMessage& message, LRESULT& result) {
-    constexpr UINT kAnswerNothing = 0x0D05; // asked by hosts of all edits
+LRESULT OnOwnMessage(const edit::EditMessage& message) {
     const HWND window = message.window;
+    const auto color = static_cast<COLORREF>(message.lParam);
     switch (message.message) {
-    case VTEM_OKTOCHANGE:
-        result = tmOkToChange(window);
-        return true;
-    case VTEM_STARTCLOCK:
-        result = tmStartClock(window);
-        return true;
-    case VTEM_STOPCLOCK:
-        result = tmStopClock(window);
-        return true;
-    case VTEM_SETTIMERECORD:
-        result = OnSetTimeRecord(window, reinterpret_cast<const VORNTIMERECORD*>(message.lParam));
-        return true;
-    case VTEM_GETTIMERECORD:
-        result = OnGetTimeRecord(window, reinterpret_cast<VORNTIMERECORD*>(message.lParam));
-        return true;
-    case kAnswerNothing:
-        result = 0;
-        return true;
-    case VTEM_GETRECORDSIZE:
-        result = OnGetRecordSize(reinterpret_cast<LONG*>(message.lParam));
-        return true;
+    case VTMM_GETHOUR:
+        return static_cast<LRESULT>(tmGetHour(window));
+    case VTMM_GETMINUTE:
+        return static_cast<LRESULT>(tmGetMinute(window));
+    case VTMM_GETSECOND:
+        return static_cast<LRESULT>(tmGetSecond(window));
+    case VTMM_SETDISPLAYSTYLE:
+        return tmSetDisplayStyle(window, static_cast<DWORD>(message.wParam));
+    case VTMM_SETNULL:
+        return tmSetNull(window);
+    case VTMM_ISNULL:
+        return tmIsNull(window);
+    case VTMM_GETMINHEIGHT:
+        return tmGetMinHeight(window);
+    case VTMM_GETMINWIDTH:
+        return tmGetMinWidth(window);
+    case VTMM_SETBACKGROUNDCOLOR:
+        return tmSetColor(window, VORN_COLOR_FACE, color);
+    case VTMM_SETTEXTCOLOR:
+        return tmSetColor(window, VORN_COLOR_TEXT, color);
+    case VTMM_OKTOCHANGE:
+        return tmOkToChange(window);
+    case VTMM_STARTCLOCK:
+        return tmStartClock(window);
+    case VTMM_STOPCLOCK:
+        return tmStopClock(window);
+    case VTMM_QUERY:
+        return 0;
     default:
-        return AnswerPrivateMessage(message, result) ||
-               AnswerEditMessage(kTimeEdit, message, result);
+        return DefWindowProcA(window, message.message, message.wParam, message.lParam);
     }
 }
 
@@ -299,7 +281,6 @@ using namespace vorn::timeedit;
 extern "C" LRESULT CALLBACK VORNTimeEditWinFn(HWND window, UINT message, WPARAM wParam,
                                               LPARAM lParam) {
     const edit::EditMessage asked = {window, message, wParam, lParam};
-    LRESULT result = 0;
     switch (message) {
     case WM_NCCREATE:
         return OnCreate(window, wParam, lParam);
@@ -321,10 +302,11 @@ extern "C" LRESULT CALLBACK VORNTimeEditWinFn(HWND window, UINT message, WPARAM 
         }
         break;
     default:
-        if (AnswerRareMessage(asked, result)) {
-            return result;
-        }
         break;
     }
-    return DefWindowProcA(window, message, wParam, lParam);
+    LRESULT result = 0;
+    if (AnswerEditMessage(kTimeEdit, asked, result) || AnswerPointerMessage(asked, result)) {
+        return result;
+    }
+    return OnOwnMessage(asked);
 }

@@ -1,5 +1,6 @@
 #include "core/edit/edit_body_win.h"
 
+#include "core/edit/edit_caret_win.h"
 #include "core/gdi_win.h"
 #include "core/window_win.h"
 
@@ -108,6 +109,7 @@ void SetEditFont(const EditKind& kind, HWND window, HFONT font, bool redraw) {
     if (redraw) {
         Redraw(window);
     }
+    RenewCaret(kind, window);
 }
 
 BOOL SetDisplayStyle(const EditKind& kind, HWND window, std::uint32_t style) {
@@ -125,7 +127,9 @@ BOOL SetDisplayStyle(const EditKind& kind, HWND window, std::uint32_t style) {
     } else {
         ReleaseEdit(*body);
     }
-    return Redraw(window);
+    const BOOL result = Redraw(window);
+    RenewCaret(kind, window);
+    return result;
 }
 
 BOOL SetEditBorder(const EditKind& kind, HWND window, std::uint32_t border) {

@@ -37,4 +37,8 @@ void PaintBorder(HWND window, const EditBody& body) {
     ReleaseDC(window, context);
 }
 
+BOOL RedrawWithBorder(HWND window) {
+    return RedrawWindow(window, nullptr, nullptr, RDW_INVALIDATE | RDW_FRAME | RDW_UPDATENOW);
+}
+
 } // namespace vorn::edit

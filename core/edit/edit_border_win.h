@@ -11,4 +11,7 @@ void ShrinkToClient(const EditBody& body, LPARAM lParam);
 // WM_NCPAINT.
 void PaintBorder(HWND window, const EditBody& body);
 
+// Repaints field and border at once, for colours that the border has too. Host code may run.
+BOOL RedrawWithBorder(HWND window);
+
 } // namespace vorn::edit

@@ -22,6 +22,13 @@ void MakeCaret(HWND window, EditBody& body) {
     body.caretHidden = false;
 }
 
+// A host may have given the focus, and with it the caret, to another window.
+bool OwnsCaret(HWND window) {
+    GUITHREADINFO info{};
+    info.cbSize = sizeof info;
+    return GetGUIThreadInfo(GetCurrentThreadId(), &info) != 0 && info.hwndCaret == window;
+}
+
 void ShowCaretAgain(HWND window, EditBody& body) {
     if (body.caretHidden) {
         body.caretHidden = false;
@@ -51,6 +58,20 @@ void PlaceCaret(const EditKind& kind, HWND window, Told told) {
     if (told == Told::Yes && beyond && kind.bodyOf(window) != nullptr) {
         NotifyParent(window, kMaxText);
     }
+}
+
+void RenewCaret(const EditKind& kind, HWND window) {
+    EditBody* body = kind.bodyOf(window);
+    if (body == nullptr || !body->focused) {
+        return;
+    }
+    const bool hidden = body->caretHidden;
+    MakeCaret(window, *body);
+    body->caretHidden = hidden;
+    if (!hidden) {
+        ShowCaret(window);
+    }
+    PlaceCaret(kind, window, Told::No);
 }
 
 void Repaint(HWND window) {
@@ -92,7 +113,9 @@ void LoseFocus(const EditKind& kind, HWND window) {
     body = kind.bodyOf(window);
     // A host may have given the focus back.
     if (body != nullptr && !body->focused) {
-        DestroyCaret();
+        if (OwnsCaret(window)) {
+            DestroyCaret();
+        }
         body->caretHidden = false;
         Redraw(window);
     }

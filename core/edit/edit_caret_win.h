@@ -11,6 +11,9 @@ namespace vorn::edit {
 enum class Told : bool { No, Yes };
 void PlaceCaret(const EditKind& kind, HWND window, Told told);
 
+// For another font or display style: the caret gets their height.
+void RenewCaret(const EditKind& kind, HWND window);
+
 // Repaints the client area, or the text area alone, at once and without erasing. Host code may run.
 void Repaint(HWND window);
 void RepaintText(const EditKind& kind, HWND window);

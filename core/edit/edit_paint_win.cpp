@@ -100,17 +100,15 @@ void PaintDigit(const Canvas& canvas, HDC digits, const Rect& cell, const char* 
            column * Width(cell), isShort ? kSpareRows : 0, SRCCOPY);
 }
 
-// Boxes beside each other, as many as there is room for.
+// Boxes beside each other; the last is cut where the area ends.
 void PaintRuling(const Canvas& canvas) {
     const COLORREF color = ResolveColor(canvas.body.colors.shadow);
     const Rect& area = canvas.area;
-    const std::int32_t cells = std::max(0, Width(area)) / canvas.shown.cellWidth;
-    const std::int32_t right = area.left + cells * canvas.shown.cellWidth;
-    for (std::int32_t x = area.left; x <= right; x += canvas.shown.cellWidth) {
+    for (std::int32_t x = area.left; x <= area.right; x += canvas.shown.cellWidth) {
         FillWithColor(canvas.context, {x - 1, area.top, x, area.bottom}, color);
     }
-    FillWithColor(canvas.context, {area.left, area.top, right, area.top + 1}, color);
-    FillWithColor(canvas.context, {area.left, area.bottom - 1, right, area.bottom}, color);
+    FillWithColor(canvas.context, {area.left, area.top, area.right, area.top + 1}, color);
+    FillWithColor(canvas.context, {area.left, area.bottom - 1, area.right, area.bottom}, color);
 }
 
 void PaintInCells(const Canvas& canvas, std::uint32_t first, std::int32_t left) {

@@ -5,15 +5,16 @@ namespace gallery {
 extern const Page kButtonPage;
 extern const Page kComboBoxPage;
 extern const Page kCalendarPage;
+extern const Page kDateEditPage;
 extern const Page kDialPage;
 extern const Page kFontSelectPage;
 extern const Page kPercentBarPage;
 extern const Page kUdlrPage;
 
 const std::vector<const Page*>& Pages() {
-    static const std::vector<const Page*> pages = {&kButtonPage, &kCalendarPage,   &kComboBoxPage,
-                                                   &kDialPage,   &kFontSelectPage, &kPercentBarPage,
-                                                   &kUdlrPage};
+    static const std::vector<const Page*> pages = {
+        &kButtonPage, &kCalendarPage,   &kComboBoxPage,   &kDateEditPage,
+        &kDialPage,   &kFontSelectPage, &kPercentBarPage, &kUdlrPage};
     return pages;
 }
 

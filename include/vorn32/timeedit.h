@@ -11,7 +11,7 @@
  * when the caret is beyond the field's right end, EN_HSCROLL when the text scrolled. What the host
  * sets by functions and messages sends none of them.
  *
- * Before a change the control sends itself VTEM_OKTOCHANGE and after it VTEM_CHANGED. A host that
+ * Before a change the control sends itself VTMM_OKTOCHANGE and after it VTMM_CHANGED. A host that
  * subclasses the control may answer 0 to the first and so refuse.
  *
  * Every function returns 0, tmIsNull 1, when the window is no time edit, and then writes nothing.
@@ -22,35 +22,37 @@
 #include <vorn32/library.h>
 
 /*
- * Window styles, read at creation. Of several borders VTES_RAISED wins over VTES_SUNKEN over
- * VTES_LINE. tmSetBorderStyle keeps a raised border as 0x2000 and a sunken one as 0x1000: the other
+ * Window styles, read at creation. Of several borders VTMS_RAISED wins over VTMS_SUNKEN over
+ * VTMS_LINE. tmSetBorderStyle keeps a raised border as 0x2000 and a sunken one as 0x1000: the other
  * way round.
  */
-#define VTES_DIGITS 0x0010  /* drawn with pictures of digits */
-#define VTES_CELLS 0x0020   /* every character in a box of its own; wins over VTES_DIGITS */
-#define VTES_SECONDS 0x0040 /* with seconds */
-#define VTES_READONLY 0x0800
-#define VTES_RAISED 0x1000
-#define VTES_SUNKEN 0x2000
-#define VTES_LINE 0x4000
+#define VTMS_DIGITS 0x0010  /* drawn with pictures of digits */
+#define VTMS_CELLS 0x0020   /* every character in a box of its own; wins over VTMS_DIGITS */
+#define VTMS_SECONDS 0x0040 /* with seconds */
+#define VTMS_READONLY 0x0800
+#define VTMS_RAISED 0x1000
+#define VTMS_SUNKEN 0x2000
+#define VTMS_LINE 0x4000
 
 /* Display styles, as tmSetDisplayStyle takes them. */
-#define VTED_PLAIN 0
-#define VTED_DIGITS 1
-#define VTED_CELLS 2
+#define VTMD_TEXT 0
+#define VTMD_DIGITS 1
+#define VTMD_CELLS 2
 
 /* A time of day: hours from 0 to 23. */
-typedef struct {
+/* NOLINTNEXTLINE(modernize-use-using): C has no other way */
+typedef struct TmTime {
     WORD hour;
     WORD minute;
     WORD second;
-} VORNTIME;
+} TmTime;
 
 /* Time and format of a time edit, 50 bytes. */
 #include <pshpack1.h>
-typedef struct {
+/* NOLINTNEXTLINE(modernize-use-using): C has no other way */
+typedef struct TmEditParams {
     DWORD setTime; /* got: 1; set: the time is taken when it is not 0 */
-    VORNTIME time;
+    TmTime time;
     WORD reserved1;
     DWORD keepFormat; /* got: left as it is; set: what follows is taken when it is 0 */
     WORD separator;   /* a character; set: 0 keeps the one there is */
@@ -60,62 +62,64 @@ typedef struct {
     DWORD showSeconds;
     char amText[9];
     char pmText[9];
-} VORNTIMEEDITPARAMS;
+} TmEditParams;
 #include <poppack.h>
 
-/* Seconds, minutes and hours as the first three of nine numbers, like the C library's record. */
-typedef struct {
-    LONG second;
-    LONG minute;
-    LONG hour;
-    LONG others[6]; /* got: 0; set: not read */
-} VORNTIMERECORD;
-
 /* Messages: the functions' twins, with their results. */
-#define VTEM_GETEDITPARAMS (WM_USER + 135)      /* lParam: VORNTIMEEDITPARAMS* */
-#define VTEM_SETEDITPARAMS (WM_USER + 136)      /* lParam: const VORNTIMEEDITPARAMS* */
-#define VTEM_GETTIME (WM_USER + 137)            /* lParam: VORNTIME* */
-#define VTEM_GETHOUR (WM_USER + 138)            /* */
-#define VTEM_GETMINUTE (WM_USER + 139)          /* */
-#define VTEM_GETSECOND (WM_USER + 140)          /* */
-#define VTEM_SETTIME (WM_USER + 143)            /* lParam: const VORNTIME* */
-#define VTEM_SETDISPLAYSTYLE (WM_USER + 148)    /* wParam: display style */
-#define VTEM_SETNULL (WM_USER + 151)            /* */
-#define VTEM_ISNULL (WM_USER + 152)             /* */
-#define VTEM_GETTIMESTRING (WM_USER + 153)      /* lParam: buffer of 64 characters */
-#define VTEM_SETTIMESTRING (WM_USER + 154)      /* lParam: text, or null */
-#define VTEM_GETMINHEIGHT (WM_USER + 155)       /* */
-#define VTEM_GETMINWIDTH (WM_USER + 156)        /* */
-#define VTEM_SETBACKGROUNDCOLOR (WM_USER + 157) /* lParam: colour code */
-#define VTEM_SETTEXTCOLOR (WM_USER + 158)       /* lParam: colour code */
-#define VTEM_STARTCLOCK (WM_USER + 160)         /* */
-#define VTEM_STOPCLOCK (WM_USER + 161)          /* */
+#define VTMM_GETEDITPARAMS (WM_USER + 135)      /* lParam: TmEditParams* */
+#define VTMM_SETEDITPARAMS (WM_USER + 136)      /* lParam: const TmEditParams* */
+#define VTMM_GETTIME (WM_USER + 137)            /* lParam: TmTime* */
+#define VTMM_GETHOUR (WM_USER + 138)            /* */
+#define VTMM_GETMINUTE (WM_USER + 139)          /* */
+#define VTMM_GETSECOND (WM_USER + 140)          /* */
+#define VTMM_SETTIME (WM_USER + 143)            /* lParam: const TmTime* */
+#define VTMM_SETDISPLAYSTYLE (WM_USER + 148)    /* wParam: display style */
+#define VTMM_SETNULL (WM_USER + 151)            /* */
+#define VTMM_ISNULL (WM_USER + 152)             /* */
+#define VTMM_GETTIMESTRING (WM_USER + 153)      /* lParam: buffer of 64 characters */
+#define VTMM_SETTIMESTRING (WM_USER + 154)      /* lParam: text, or null */
+#define VTMM_GETMINHEIGHT (WM_USER + 155)       /* */
+#define VTMM_GETMINWIDTH (WM_USER + 156)        /* */
+#define VTMM_SETBACKGROUNDCOLOR (WM_USER + 157) /* lParam: colour code */
+#define VTMM_SETTEXTCOLOR (WM_USER + 158)       /* lParam: colour code */
+#define VTMM_STARTCLOCK (WM_USER + 160)         /* */
+#define VTMM_STOPCLOCK (WM_USER + 161)          /* */
 
 /* Sent to itself. */
-#define VTEM_OKTOCHANGE (WM_USER + 159) /* before a change; result: 1, or 0 to refuse it */
-#define VTEM_CHANGED (WM_USER + 400)    /* after a change; without a meaning of its own */
+#define VTMM_OKTOCHANGE (WM_USER + 159) /* before a change; result: 1, or 0 to refuse it */
+#define VTMM_CHANGED (WM_USER + 400)    /* after a change; without a meaning of its own */
 
-/* Messages without a function. */
-#define VTEM_SETTIMERECORD 0x0D00 /* lParam: const VORNTIMERECORD*; asks before it changes */
-#define VTEM_GETTIMERECORD 0x0D01 /* lParam: VORNTIMERECORD* */
-#define VTEM_GETRECORDSIZE 0x0D07 /* lParam: LONG* that takes 36, or null; result: 11 */
+/*
+ * The time from and to the broken-down time of C libraries: nine 32-bit integers that begin with
+ * seconds, minutes and hours. VTMM_SETBROKENDOWN takes these three after VTMM_OKTOCHANGE;
+ * VTMM_GETBROKENDOWN fills them, and the rest with 0.
+ */
+#define VTMM_SETBROKENDOWN 0x0D00 /* lParam: record */
+#define VTMM_GETBROKENDOWN 0x0D01 /* lParam: record */
+
+/*
+ * VTMM_QUERY results in 0. VTMM_GETBROKENDOWNSIZE writes 36, the size of that record, to the DWORD
+ * that lParam points to, if it does, and results in 11.
+ */
+#define VTMM_QUERY 0x0D05
+#define VTMM_GETBROKENDOWNSIZE 0x0D07
 
 #ifdef __cplusplus
 extern "C" {
 #endif
 
 /* Fills the record but for its reserved fields and `keepFormat`. Returns 1. */
-VORNAPI BOOL WINAPI tmGetEditParams(HWND window, VORNTIMEEDITPARAMS* params);
+VORNAPI BOOL WINAPI tmGetEditParams(HWND window, TmEditParams* params);
 
 /*
  * Takes time and format as the record says; the time, which is stored unchecked, only if the
- * control is not told to refuse it. Repaints, and posts VTEM_CHANGED. Returns 1, 0 for a null
+ * control is not told to refuse it. Repaints, and posts VTMM_CHANGED. Returns 1, 0 for a null
  * record.
  */
-VORNAPI BOOL WINAPI tmSetEditParams(HWND window, const VORNTIMEEDITPARAMS* params);
+VORNAPI BOOL WINAPI tmSetEditParams(HWND window, const TmEditParams* params);
 
 /* Copies the time; of a null control the numbers that it held before. Returns 1. */
-VORNAPI BOOL WINAPI tmGetTime(HWND window, VORNTIME* time);
+VORNAPI BOOL WINAPI tmGetTime(HWND window, TmTime* time);
 
 /* The time's numbers. */
 VORNAPI UINT WINAPI tmGetHour(HWND window);
@@ -123,10 +127,10 @@ VORNAPI UINT WINAPI tmGetMinute(HWND window);
 VORNAPI UINT WINAPI tmGetSecond(HWND window);
 
 /* Sets the time, unchecked. Repaints. Returns 1, 0 when it was refused or `time` is null. */
-VORNAPI BOOL WINAPI tmSetTime(HWND window, const VORNTIME* time);
+VORNAPI BOOL WINAPI tmSetTime(HWND window, const TmTime* time);
 
 /*
- * How the time is drawn; takes the style bits along. Any number but the three VTED_ clears the
+ * How the time is drawn; takes the style bits along. Any number but the three VTMD_ clears the
  * bits and leaves the rest. Redraws, and returns the result of that.
  */
 VORNAPI BOOL WINAPI tmSetDisplayStyle(HWND window, DWORD displayStyle);
@@ -160,12 +164,12 @@ VORNAPI int WINAPI tmGetMinWidth(HWND window);
  */
 VORNAPI BOOL WINAPI tmSetColor(HWND window, int slot, COLORREF colorCode);
 
-/* The answer of the class to VTEM_OKTOCHANGE: 1, for every window. */
+/* The answer of the class to VTMM_OKTOCHANGE: 1, for every window. */
 VORNAPI BOOL WINAPI tmOkToChange(HWND window);
 
 /*
  * Starts and stops the clock: ten times a second it sets the time from a text of the local time
- * such as "14:05:09", as tmSetTimeString does. So it asks VTEM_OKTOCHANGE each time and redraws
+ * such as "14:05:09", as tmSetTimeString does. So it asks VTMM_OKTOCHANGE each time and redraws
  * once a second, and AM and PM texts that are empty count. Both return 1.
  */
 VORNAPI BOOL WINAPI tmStartClock(HWND window);

@@ -4,14 +4,15 @@ import pathlib
 import struct
 import sys
 
-from pictures import CELLS, TRANSPARENT, strip
+from pictures import CELLS, OPAQUE, TRANSPARENT, strip
 from tree import finish
 
 RT_BITMAP = 2
 SUBFOLDER = 0x80000000
 BITMAPS = {222: ("button20", CELLS["button20"]), 223: ("button16", CELLS["button16"]),
            228: ("hostapp", CELLS["hostapp"]),
-           **{int(cell[:3]): (name, [cell]) for name in ("pad", "fontmark")
+           **{int(cell[:3]): (name, [cell]) for name in ("pad", "fontmark", "dropdown", "digits13",
+                                                     "digits19", "digits26")
               for cell in CELLS[name]}}
 
 image = pathlib.Path(sys.argv[1]).read_bytes()
@@ -78,7 +79,7 @@ def differences(number, actual):
                f"{len(expected[0])} by {len(expected)}")
     elif actual != expected:
         yield f"bitmap {number} does not show its cells"
-    elif set_name != "pad" and actual[-1][0] != TRANSPARENT:
+    elif set_name not in OPAQUE and actual[-1][0] != TRANSPARENT:
         yield f"bitmap {number} has no transparent colour"
 
 

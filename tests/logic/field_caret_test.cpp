@@ -65,6 +65,28 @@ TEST(TextCaret, ExtendsFromWhereTheSelectionStarted) {
     EXPECT_EQ(Places(caret), (std::vector{7, 8, 8})) << "the caret was outside";
 }
 
+TEST(TextCaret, SelectsWhatAMessageAsks) {
+    const struct {
+        std::uint32_t start, end;
+        int selectionStart, selectionEnd, index;
+    } cases[] = {
+        {2, 4, 2, 4, 4},          {4, 2, 2, 4, 2},          {3, 3, 3, 3, 3},
+        {0, 0xFFFFFFFF, 0, 6, 6}, {2, 0xFFFF, 2, 6, 6},     {0x10002, 0x10004, 6, 6, 6},
+        {0xFFFFFFFE, 1, 1, 6, 1}, {7, 9, 6, 6, 6},          {0x80000000, 0x7FFFFFFF, 6, 6, 6},
+        {0xFFFFFFFF, 0, 5, 5, 5}, {0xFFFFFFFF, 3, 5, 5, 5},
+    };
+    for (const auto& [start, end, selectionStart, selectionEnd, index] : cases) {
+        TextCaret caret = {1, 5, 5, 0};
+        SelectAsAsked(caret, start, end, 6);
+        EXPECT_EQ(caret.selectionStart, selectionStart) << start << " " << end;
+        EXPECT_EQ(caret.selectionEnd, selectionEnd) << start << " " << end;
+        EXPECT_EQ(caret.index, index) << start << " " << end;
+    }
+    TextCaret caret;
+    SelectAsAsked(caret, 3, 9, 0);
+    EXPECT_EQ(caret.selectionEnd, 0) << "nothing to select";
+}
+
 TEST(TextCaret, StaysInATextThatBecameShorter) {
     TextCaret caret;
     Select(caret, 3, 9, 9, 10);

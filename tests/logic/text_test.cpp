@@ -88,5 +88,25 @@ TEST(TextBuilding, CutsToTheBuffer) {
     }
 }
 
+TEST(CopyOut, CutsAndTerminatesAndTouchesNoMore) {
+    for (const std::size_t size : {1u, 2u, 5u, 6u, 7u}) {
+        char buffer[8] = {'x', 'x', 'x', 'x', 'x', 'x', 'x', 'x'};
+        const std::string expected = std::string("12/25").substr(0, size - 1);
+        EXPECT_EQ(CopyOut(buffer, size, "12/25"), expected.size());
+        EXPECT_EQ(std::string(buffer), expected);
+        EXPECT_EQ(buffer[expected.size() + 1], 'x') << size;
+    }
+}
+
+TEST(CopyOut, BelievesNoSize) {
+    char buffer[6] = "xxxxx";
+    EXPECT_EQ(CopyOut(buffer, 0x7FFFFFFF, "12/25"), 5u);
+    EXPECT_STREQ(buffer, "12/25");
+    char untouched = 'x';
+    EXPECT_EQ(CopyOut(&untouched, 0, "12/25"), 0u);
+    EXPECT_EQ(untouched, 'x');
+    EXPECT_EQ(CopyOut(nullptr, 10, "12/25"), 0u);
+}
+
 } // namespace
 } // namespace vorn

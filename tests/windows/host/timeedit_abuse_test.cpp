@@ -37,7 +37,7 @@ protected:
             {"end", key(VK_END)},
             {"set time",
              [](HWND edit) {
-                 const VORNTIME time = {1, 2, 3};
+                 const TmTime time = {1, 2, 3};
                  tmSetTime(edit, &time);
              }},
             {"set null", [](HWND edit) { tmSetNull(edit); }},
@@ -45,7 +45,7 @@ protected:
             {"window text", [](HWND edit) { SetWindowTextA(edit, "1:02:03 AM"); }},
             {"params",
              [](HWND edit) {
-                 VORNTIMEEDITPARAMS params{};
+                 TmEditParams params{};
                  tmGetEditParams(edit, &params);
                  params.keepFormat = 0;
                  tmSetEditParams(edit, &params);
@@ -53,8 +53,8 @@ protected:
              }},
             {"record",
              [](HWND edit) {
-                 const VORNTIMERECORD record = {1, 2, 3, {}};
-                 SendMessageA(edit, VTEM_SETTIMERECORD, 0, reinterpret_cast<LPARAM>(&record));
+                 const LONG record[9] = {1, 2, 3};
+                 SendMessageA(edit, VTMM_SETBROKENDOWN, 0, reinterpret_cast<LPARAM>(record));
              }},
             {"tick", [](HWND edit) { SendMessageA(edit, WM_TIMER, 567, 0); }},
             {"replace",
@@ -75,7 +75,7 @@ protected:
 
     // A narrow one, so that it scrolls too, with a time on the clipboard.
     HWND CreateNarrow() {
-        HWND edit = edits.Create(VORN_TIMEEDIT_CLASS, VTES_SECONDS, 50, 24);
+        HWND edit = edits.Create(VORN_TIMEEDIT_CLASS, VTMS_SECONDS, 50, 24);
         Set(edit, 22, 44, 55);
         SetFocus(edit);
         SendMessageA(edit, EM_SETSEL, 0, -1);
@@ -145,8 +145,8 @@ TEST_F(TimeEditAbuse, BearsChangesInWhateverItAsksAndTells) {
             for (const Story& inner : Stories()) {
                 inner.run(which);
             }
-            tmSetDisplayStyle(which, VTED_DIGITS);
-            tmSetDisplayStyle(which, VTED_PLAIN);
+            tmSetDisplayStyle(which, VTMD_DIGITS);
+            tmSetDisplayStyle(which, VTMD_TEXT);
             SendMessageA(which, EM_SETSEL, 0, 50);
             --depth;
         };
@@ -169,7 +169,7 @@ TEST_F(TimeEditAbuse, ADestroyingAnswerIsARefusal) {
             DestroyWindow(which);
         }
     };
-    const VORNTIME time = {1, 2, 3};
+    const TmTime time = {1, 2, 3};
     EXPECT_EQ(tmSetTime(edit, &time), 0);
     EXPECT_FALSE(IsWindow(edit));
 }
@@ -179,7 +179,7 @@ TEST_F(TimeEditAbuse, ASecondCreationMessageChangesNothing) {
     CREATESTRUCTA create{};
     create.lpszName = "";
     EXPECT_EQ(SendMessageA(edit, WM_NCCREATE, 0, reinterpret_cast<LPARAM>(&create)), 0);
-    EXPECT_EQ(TimeOf(edit), (VORNTIME{1, 2, 3}));
+    EXPECT_EQ(TimeOf(edit), (TmTime{1, 2, 3}));
 }
 
 TEST_F(TimeEditAbuse, WorksInAClassOfTheHostsOwn) {
@@ -189,7 +189,7 @@ TEST_F(TimeEditAbuse, WorksInAClassOfTheHostsOwn) {
     ours.hInstance = GetModuleHandleA(nullptr);
     ours.style &= ~static_cast<UINT>(CS_GLOBALCLASS);
     ASSERT_NE(RegisterClassA(&ours), 0);
-    HWND edit = edits.Create("HostsOwnTime", VTES_SECONDS, 200, 24);
+    HWND edit = edits.Create("HostsOwnTime", VTMS_SECONDS, 200, 24);
     Set(edit, 1, 2, 3);
     SetFocus(edit);
     PressKeys({VK_UP});

@@ -24,7 +24,7 @@ protected:
 
     // How far the edit's time is behind the local one, in seconds.
     static unsigned SecondsBehind(HWND edit) {
-        const VORNTIME time = TimeOf(edit);
+        const TmTime time = TimeOf(edit);
         const unsigned shown = time.hour * 3600u + time.minute * 60u + time.second;
         return (LocalSeconds() + 86400u - shown) % 86400u;
     }
@@ -65,7 +65,7 @@ TEST_F(TimeEditClock, ShowsTheLocalTime) {
     EXPECT_LE(SecondsBehind(edit), 1u);
     Set(edit, 0, 0, 0);
     SendMessageA(edit, WM_TIMER, 566, 0);
-    EXPECT_EQ(TimeOf(edit), (VORNTIME{0, 0, 0})) << "another's timer";
+    EXPECT_EQ(TimeOf(edit), (TmTime{0, 0, 0})) << "another's timer";
 }
 
 TEST_F(TimeEditClock, StopsWhenItIsToldTo) {
@@ -77,7 +77,7 @@ TEST_F(TimeEditClock, StopsWhenItIsToldTo) {
     EXPECT_FALSE(TakeTimer(edit, 567));
     Set(edit, 1, 2, 3);
     PumpFor(400);
-    EXPECT_EQ(TimeOf(edit), (VORNTIME{1, 2, 3}));
+    EXPECT_EQ(TimeOf(edit), (TmTime{1, 2, 3}));
 }
 
 TEST_F(TimeEditClock, LeavesNoTimerBehind) {
@@ -95,7 +95,7 @@ TEST_F(TimeEditClock, ARefusalStopsTheTimeAndNotTheClock) {
     tmStartClock(edit);
     edits.allow = false;
     PumpFor(400);
-    EXPECT_EQ(TimeOf(edit), (VORNTIME{1, 2, 3}));
+    EXPECT_EQ(TimeOf(edit), (TmTime{1, 2, 3}));
     edits.allow = true;
     EXPECT_TRUE(PumpFor(1000, [&] { return SecondsBehind(edit) <= 1; }));
 }

@@ -73,7 +73,7 @@ TEST_F(TimeEditInput, DigitsChangeTheTimeAndSaySo) {
     HWND edit = CreateFocused(14, 5, 9);
     EXPECT_EQ(Press({'7'}), kChanged);
     EXPECT_EQ(TextOf(edit), "07:05:09 PM");
-    EXPECT_EQ(TimeOf(edit), (VORNTIME{19, 5, 9}));
+    EXPECT_EQ(TimeOf(edit), (TmTime{19, 5, 9}));
     EXPECT_EQ(SendMessageA(edit, EM_GETMODIFY, 0, 0), 1);
     Type("4512");
     EXPECT_EQ(TextOf(edit), "07:45:12 PM");
@@ -99,7 +99,7 @@ TEST_F(TimeEditInput, ArrowsStepAndMove) {
     PressKeys({VK_END});
     PressKeys({VK_DOWN});
     EXPECT_EQ(TextOf(edit), "12:00:00 PM");
-    EXPECT_EQ(TimeOf(edit), (VORNTIME{12, 0, 0}));
+    EXPECT_EQ(TimeOf(edit), (TmTime{12, 0, 0}));
     PressKeys({VK_HOME});
     PressKeys({VK_DOWN});
     EXPECT_EQ(TextOf(edit), "11:00:00 AM");
@@ -116,7 +116,7 @@ TEST_F(TimeEditInput, DeletingAllIsNullAndTypingStartsFromZeros) {
     EXPECT_EQ(Press({VK_BACK}), (Heard{"ask", "changed"})) << "nothing to delete";
     EXPECT_EQ(Press({'3'}), kChanged);
     EXPECT_EQ(TextOf(edit), "03:00:00 AM");
-    EXPECT_EQ(TimeOf(edit), (VORNTIME{3, 0, 0}));
+    EXPECT_EQ(TimeOf(edit), (TmTime{3, 0, 0}));
 }
 
 TEST_F(TimeEditInput, RefusedKeysChangeNothing) {
@@ -130,7 +130,7 @@ TEST_F(TimeEditInput, RefusedKeysChangeNothing) {
 }
 
 TEST_F(TimeEditInput, ReadOnlyOnesRefuseKeysWithoutAsking) {
-    HWND edit = CreateFocused(14, 5, 9, VTES_SECONDS | VTES_READONLY);
+    HWND edit = CreateFocused(14, 5, 9, VTMS_SECONDS | VTMS_READONLY);
     EXPECT_EQ(Press({'7'}), Heard{});
     EXPECT_EQ(Press({VK_UP}), Heard{});
     SendMouse(edit, WM_LBUTTONDOWN, XOf(edit, 4), 10);
@@ -143,7 +143,7 @@ TEST_F(TimeEditInput, ReadOnlyOnesRefuseKeysWithoutAsking) {
 
 TEST_F(TimeEditInput, TabGoesToTheNextTabStop) {
     HWND before = edits.host().Create("EDIT", WS_TABSTOP, 300, 10, 50, 20, 1);
-    HWND edit = CreateAt(14, 5, 9, VTES_SECONDS | WS_TABSTOP);
+    HWND edit = CreateAt(14, 5, 9, VTMS_SECONDS | WS_TABSTOP);
     HWND after = edits.host().Create("EDIT", WS_TABSTOP, 300, 40, 50, 20, 2);
     SetFocus(edit);
     PressKeys({VK_TAB});
@@ -158,7 +158,7 @@ TEST_F(TimeEditInput, TabGoesToTheNextTabStop) {
 
 // A control with numbers that the field has no room for.
 TEST_F(TimeEditInput, SaysWhenTheTextScrollsOrIsBeyond) {
-    HWND edit = edits.Create(VORN_TIMEEDIT_CLASS, VTES_SECONDS, 50, 24);
+    HWND edit = edits.Create(VORN_TIMEEDIT_CLASS, VTMS_SECONDS, 50, 24);
     Set(edit, 22, 44, 55);
     SetFocus(edit);
     PumpMessages();
@@ -225,14 +225,14 @@ TEST_F(TimeEditInput, CopiesCutsAndPastesByMessages) {
     EXPECT_TRUE(tmIsNull(edit));
     EXPECT_EQ(edits.HeardBy([&] { SendMessageA(edit, WM_PASTE, 0, 0); }),
               (Heard{"ask", "changed", "UPDATE", "CHANGE"}));
-    EXPECT_EQ(TimeOf(edit), (VORNTIME{14, 5, 9}));
+    EXPECT_EQ(TimeOf(edit), (TmTime{14, 5, 9}));
     SendMessageA(edit, EM_SETSEL, 2, 4);
     EXPECT_EQ(edits.HeardBy([&] { SendMessageA(edit, WM_CLEAR, 0, 0); }),
               (Heard{"ask", "changed", "UPDATE", "CHANGE"}));
-    EXPECT_EQ(TimeOf(edit), (VORNTIME{14, 0, 9}));
+    EXPECT_EQ(TimeOf(edit), (TmTime{14, 0, 9}));
     SendMessageA(edit, EM_SETSEL, 0, -1);
     EXPECT_EQ(Refused([&] { SendMessageA(edit, WM_CLEAR, 0, 0); }), Heard{"ask"});
-    EXPECT_EQ(TimeOf(edit), (VORNTIME{14, 0, 9}));
+    EXPECT_EQ(TimeOf(edit), (TmTime{14, 0, 9}));
 }
 
 // ---- Mouse ----
@@ -249,7 +249,7 @@ TEST_F(TimeEditInput, PressesPutTheCaretAndDoublePressesSelect) {
     SendMouse(edit, WM_LBUTTONUP, XOf(edit, 4) - 3, 10);
     EXPECT_EQ(SelectionOf(edit), (Selection{4, 4}));
     PressKeys({VK_UP});
-    EXPECT_EQ(TimeOf(edit), (VORNTIME{14, 6, 9})) << "the minute is current";
+    EXPECT_EQ(TimeOf(edit), (TmTime{14, 6, 9})) << "the minute is current";
     for (const auto& [index, start, end] :
          {std::array<DWORD, 3>{1, 0, 2}, {4, 3, 5}, {7, 6, 8}, {10, 9, 11}}) {
         SendMouse(edit, WM_LBUTTONDBLCLK, XOf(edit, static_cast<int>(index)), 10);

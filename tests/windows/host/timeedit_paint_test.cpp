@@ -62,8 +62,8 @@ TEST_F(TimeEditPaint, UsesItsColors) {
     EXPECT_EQ(Difference(Written("2:05:09 PM", kPaper, kInk), PixelsOf(edit)), "");
     EXPECT_NE(tmSetColor(edit, 16, RGB(1, 2, 3)), 0) << "no slot of its";
     EXPECT_EQ(Difference(Written("2:05:09 PM", kPaper, kInk), PixelsOf(edit)), "");
-    SendMessageA(edit, VTEM_SETBACKGROUNDCOLOR, 0, static_cast<LPARAM>(kInk));
-    SendMessageA(edit, VTEM_SETTEXTCOLOR, 0, static_cast<LPARAM>(VORN_SYSCOLOR(COLOR_WINDOW)));
+    SendMessageA(edit, VTMM_SETBACKGROUNDCOLOR, 0, static_cast<LPARAM>(kInk));
+    SendMessageA(edit, VTMM_SETTEXTCOLOR, 0, static_cast<LPARAM>(VORN_SYSCOLOR(COLOR_WINDOW)));
     EXPECT_EQ(Difference(Written("2:05:09 PM", kInk, System(COLOR_WINDOW)), PixelsOf(edit)), "");
 }
 
@@ -128,10 +128,10 @@ TEST_F(TimeEditPaint, DrawsTheBordersOfItsStyles) {
     };
     const std::string raised = "FL  DW"; // as all controls of the library have it
     const std::string sunken = "DW  FL";
-    EXPECT_EQ(sides(Create(VTES_RAISED)), raised);
-    EXPECT_EQ(sides(Create(VTES_SUNKEN)), sunken);
-    EXPECT_EQ(sides(Create(VTES_RAISED | VTES_SUNKEN | VTES_LINE)), raised);
-    EXPECT_EQ(sides(Create(VTES_LINE)), "W    W");
+    EXPECT_EQ(sides(Create(VTMS_RAISED)), raised);
+    EXPECT_EQ(sides(Create(VTMS_SUNKEN)), sunken);
+    EXPECT_EQ(sides(Create(VTMS_RAISED | VTMS_SUNKEN | VTMS_LINE)), raised);
+    EXPECT_EQ(sides(Create(VTMS_LINE)), "W    W");
     EXPECT_EQ(sides(Create(0)), "      ");
     HWND later = Create(0);
     tmSetBorderStyle(later, VORN_BORDER_RAISED);
@@ -146,17 +146,17 @@ TEST_F(TimeEditPaint, EachDisplayStyleHasItsLook) {
     HWND plain = CreateAt(14, 5, 9);
     const Pixels plainPixels = Shown(plain);
     DestroyWindow(plain);
-    HWND digits = CreateAt(14, 5, 9, VTES_SECONDS | VTES_DIGITS);
+    HWND digits = CreateAt(14, 5, 9, VTMS_SECONDS | VTMS_DIGITS);
     const Pixels digitPixels = Shown(digits);
     DestroyWindow(digits);
-    HWND cells = CreateAt(14, 5, 9, VTES_SECONDS | VTES_CELLS | VTES_DIGITS);
+    HWND cells = CreateAt(14, 5, 9, VTMS_SECONDS | VTMS_CELLS | VTMS_DIGITS);
     const Pixels cellPixels = Shown(cells);
     EXPECT_NE(plainPixels, digitPixels);
     EXPECT_NE(plainPixels, cellPixels);
     EXPECT_NE(digitPixels, cellPixels);
-    tmSetDisplayStyle(cells, VTED_PLAIN);
+    tmSetDisplayStyle(cells, VTMD_TEXT);
     EXPECT_EQ(Difference(plainPixels, PixelsOf(cells)), "") << "and back";
-    tmSetDisplayStyle(cells, VTED_DIGITS);
+    tmSetDisplayStyle(cells, VTMD_DIGITS);
     EXPECT_EQ(Difference(digitPixels, PixelsOf(cells)), "");
     tmSetDisplayStyle(cells, 9);
     EXPECT_EQ((GetWindowLongA(cells, GWL_STYLE) & 0x30), 0);

@@ -30,8 +30,8 @@ protected:
         return {rect.right - rect.left, rect.bottom - rect.top};
     }
 
-    static VORNTIMEEDITPARAMS ParamsOf(HWND edit) {
-        VORNTIMEEDITPARAMS params{};
+    static TmEditParams ParamsOf(HWND edit) {
+        TmEditParams params{};
         EXPECT_EQ(tmGetEditParams(edit, &params), 1);
         return params;
     }
@@ -50,7 +50,7 @@ TEST_F(TimeEdit, HoldsTheTimeOfItsCreationInUtc) {
     ASSERT_NE(edit, nullptr);
     EXPECT_NE(GetWindowLongPtrA(edit, 8), 0) << "the record";
     EXPECT_FALSE(tmIsNull(edit));
-    const VORNTIME time = TimeOf(edit);
+    const TmTime time = TimeOf(edit);
     const unsigned passed =
         (time.hour * 3600u + time.minute * 60u + time.second + 86400u - SecondsOfDay(before)) %
         86400u;
@@ -90,7 +90,7 @@ TEST_F(TimeEdit, ReadsItsBorderInItsOwnOrder) {
 
 TEST_F(TimeEdit, TakesATimeAsItIs) {
     HWND edit = Create();
-    const VORNTIME time = {14, 5, 9};
+    const TmTime time = {14, 5, 9};
     EXPECT_EQ(edits.HeardBy([&] { EXPECT_EQ(tmSetTime(edit, &time), 1); }),
               (Heard{"ask", "changed"}));
     EXPECT_EQ(TimeOf(edit), time);
@@ -98,7 +98,7 @@ TEST_F(TimeEdit, TakesATimeAsItIs) {
     EXPECT_EQ(tmGetMinute(edit), 5u);
     EXPECT_EQ(tmGetSecond(edit), 9u);
     EXPECT_EQ(TextOf(edit), "2:05:09 PM");
-    const VORNTIME none = {65535, 65535, 65535};
+    const TmTime none = {65535, 65535, 65535};
     EXPECT_EQ(tmSetTime(edit, &none), 1);
     EXPECT_EQ(TimeOf(edit), none);
     EXPECT_EQ(TextOf(edit), "65535:65535:65535 PM");
@@ -121,18 +121,18 @@ TEST_F(TimeEdit, CanHoldNoTime) {
     Set(edit, 14, 5, 9);
     EXPECT_EQ(tmSetTimeString(edit, nullptr), 1);
     EXPECT_TRUE(tmIsNull(edit));
-    EXPECT_EQ(TimeOf(edit), (VORNTIME{0, 0, 0}));
+    EXPECT_EQ(TimeOf(edit), (TmTime{0, 0, 0}));
 }
 
 TEST_F(TimeEdit, ReadsTexts) {
     HWND edit = Create();
     tmSetTimeString(edit, "2:05:09 PM");
-    EXPECT_EQ(TimeOf(edit), (VORNTIME{14, 5, 9}));
+    EXPECT_EQ(TimeOf(edit), (TmTime{14, 5, 9}));
     tmSetTimeString(edit, "12:00:00 AM");
-    EXPECT_EQ(TimeOf(edit), (VORNTIME{0, 0, 0}));
+    EXPECT_EQ(TimeOf(edit), (TmTime{0, 0, 0}));
     EXPECT_EQ(TextOf(edit), "12:00:00 AM");
     SetWindowTextA(edit, "3:04:05 pm");
-    EXPECT_EQ(TimeOf(edit), (VORNTIME{15, 4, 5}));
+    EXPECT_EQ(TimeOf(edit), (TmTime{15, 4, 5}));
     char longText[400];
     std::memset(longText, '7', sizeof longText - 1);
     longText[399] = '\0';
@@ -186,9 +186,9 @@ TEST_F(TimeEdit, MessagesAreTheFunctions) {
     EXPECT_EQ(Send(edit, 1162), 14);
     EXPECT_EQ(Send(edit, 1163), 5);
     EXPECT_EQ(Send(edit, 1164), 9);
-    VORNTIME time{};
+    TmTime time{};
     EXPECT_EQ(SendPointer(edit, 1161, &time), 1);
-    EXPECT_EQ(time, (VORNTIME{14, 5, 9}));
+    EXPECT_EQ(time, (TmTime{14, 5, 9}));
     time = {1, 2, 3};
     EXPECT_EQ(SendPointer(edit, 1167, &time), 1);
     EXPECT_EQ(TextOf(edit), "1:02:03 AM");
@@ -202,11 +202,11 @@ TEST_F(TimeEdit, MessagesAreTheFunctions) {
     EXPECT_EQ(Send(edit, 1179), tmGetMinHeight(edit));
     EXPECT_EQ(Send(edit, 1180), tmGetMinWidth(edit));
     EXPECT_EQ(Send(edit, 1183), 1);
-    Send(edit, 1172, VTED_CELLS);
+    Send(edit, 1172, VTMD_CELLS);
     EXPECT_EQ(Style(edit) & 0x30, 0x20u);
-    VORNTIMEEDITPARAMS params{};
+    TmEditParams params{};
     EXPECT_EQ(SendPointer(edit, 1159, &params), 1);
-    EXPECT_EQ(params.time, (VORNTIME{16, 5, 6}));
+    EXPECT_EQ(params.time, (TmTime{16, 5, 6}));
     params.time.hour = 7;
     params.keepFormat = 1;
     EXPECT_EQ(SendPointer(edit, 1160, &params), 1);
@@ -223,21 +223,18 @@ TEST_F(TimeEdit, MessagesAreTheFunctions) {
 
 TEST_F(TimeEdit, AnswersTheRecordOfNineNumbers) {
     HWND edit = CreateAt(14, 5, 9);
-    VORNTIMERECORD record;
-    FillMemory(&record, sizeof record, 0xEE);
-    EXPECT_EQ(SendPointer(edit, 3329, &record), 0);
-    EXPECT_EQ(record.second, 9);
-    EXPECT_EQ(record.minute, 5);
-    EXPECT_EQ(record.hour, 14);
-    for (const LONG other : record.others) {
-        EXPECT_EQ(other, 0);
+    LONG record[9];
+    FillMemory(record, sizeof record, 0xEE);
+    EXPECT_EQ(SendPointer(edit, 3329, record), 0);
+    const LONG expected[9] = {9, 5, 14};
+    for (int index = 0; index < 9; ++index) {
+        EXPECT_EQ(record[index], expected[index]) << index;
     }
-    record = {1, 2, 3, {9, 9, 9, 9, 9, 9}};
-    EXPECT_EQ(edits.HeardBy([&] { EXPECT_EQ(SendPointer(edit, 3328, &record), 0); }),
+    const LONG other[9] = {1, 2, 3, 9, 9, 9, 9, 9, 9};
+    EXPECT_EQ(edits.HeardBy([&] { EXPECT_EQ(SendPointer(edit, 3328, other), 0); }),
               (Heard{"ask", "changed"}));
-    EXPECT_EQ(TimeOf(edit), (VORNTIME{3, 2, 1}));
-    record.hour = 4;
-    EXPECT_EQ(Refused([&] { SendPointer(edit, 3328, &record); }), Heard{"ask"});
+    EXPECT_EQ(TimeOf(edit), (TmTime{3, 2, 1}));
+    EXPECT_EQ(Refused([&] { SendPointer(edit, 3328, record); }), Heard{"ask"});
     EXPECT_EQ(tmGetHour(edit), 3u);
     EXPECT_EQ(Send(edit, 3328), 0) << "null";
     EXPECT_EQ(Send(edit, 3329), 0);
@@ -246,14 +243,14 @@ TEST_F(TimeEdit, AnswersTheRecordOfNineNumbers) {
     EXPECT_EQ(SendPointer(edit, 3335, &size), 11);
     EXPECT_EQ(size, 36);
     EXPECT_EQ(Send(edit, 3335), 11);
-    EXPECT_EQ(TimeOf(edit), (VORNTIME{3, 2, 1}));
+    EXPECT_EQ(TimeOf(edit), (TmTime{3, 2, 1}));
 }
 
 // ---- Refusals ----
 
 TEST_F(TimeEdit, RefusedChangesAreDropped) {
     HWND edit = CreateAt(14, 5, 9);
-    const VORNTIME time = {1, 2, 3};
+    const TmTime time = {1, 2, 3};
     EXPECT_EQ(Refused([&] { EXPECT_EQ(tmSetTime(edit, &time), 0); }), Heard{"ask"});
     EXPECT_EQ(Refused([&] { EXPECT_EQ(tmSetNull(edit), 0); }), Heard{"ask"});
     EXPECT_EQ(Refused([&] { EXPECT_EQ(tmSetTimeString(edit, "1:02:03 AM"), 0); }), Heard{"ask"});
@@ -266,7 +263,7 @@ TEST_F(TimeEdit, RefusedChangesAreDropped) {
 
 TEST_F(TimeEdit, TakesItsFormatEvenWhenTheTimeIsRefused) {
     HWND edit = CreateAt(14, 5, 9);
-    VORNTIMEEDITPARAMS params = ParamsOf(edit);
+    TmEditParams params = ParamsOf(edit);
     EXPECT_EQ(params.separator, ':');
     EXPECT_EQ(params.leadingZero, 0u);
     EXPECT_EQ(params.twentyFourHour, 0u);
@@ -294,7 +291,7 @@ TEST_F(TimeEdit, TakesItsFormatEvenWhenTheTimeIsRefused) {
 
 TEST_F(TimeEdit, ParamsEndNull) {
     HWND edit = CreateAt(14, 5, 9);
-    VORNTIMEEDITPARAMS params = ParamsOf(edit);
+    TmEditParams params = ParamsOf(edit);
     tmSetNull(edit);
     tmSetEditParams(edit, &params);
     EXPECT_FALSE(tmIsNull(edit));
@@ -319,7 +316,7 @@ TEST_F(TimeEdit, FollowsTheUsersSettingsWhenItIsTold) {
     Set(edit, 4, 5, 9);
     SendPointer(edit, WM_WININICHANGE, "intl");
     EXPECT_EQ(TextOf(edit), "04.05.09");
-    EXPECT_EQ(TimeOf(edit), (VORNTIME{4, 5, 9}));
+    EXPECT_EQ(TimeOf(edit), (TmTime{4, 5, 9}));
 }
 
 TEST_F(TimeEdit, HasDefaultsForWhatTheUserDoesNotSay) {
@@ -379,18 +376,18 @@ TEST_F(TimeEdit, GrowsWithEveryRequestForABorder) {
     tmSetBorderStyle(edit, VORN_BORDER_LINE);
     tmSetBorderStyle(edit, 9);
     EXPECT_EQ(Style(edit) & 0x7000, 0u);
-    EXPECT_EQ(tmGetMinWidth(edit), tmGetMinWidth(Create(VTES_LINE))) << "the border stays";
+    EXPECT_EQ(tmGetMinWidth(edit), tmGetMinWidth(Create(VTMS_LINE))) << "the border stays";
 }
 
 TEST_F(TimeEdit, KeepsItsDisplayStyleInItsStyleBits) {
     HWND edit = CreateAt(14, 5, 9);
-    EXPECT_NE(tmSetDisplayStyle(edit, VTED_DIGITS), 0);
+    EXPECT_NE(tmSetDisplayStyle(edit, VTMD_DIGITS), 0);
     EXPECT_EQ(Style(edit) & 0x30, 0x10u);
-    tmSetDisplayStyle(edit, VTED_CELLS);
+    tmSetDisplayStyle(edit, VTMD_CELLS);
     EXPECT_EQ(Style(edit) & 0x30, 0x20u);
-    tmSetDisplayStyle(edit, VTED_PLAIN);
+    tmSetDisplayStyle(edit, VTMD_TEXT);
     EXPECT_EQ(Style(edit) & 0x30, 0u);
-    tmSetDisplayStyle(edit, VTED_CELLS);
+    tmSetDisplayStyle(edit, VTMD_CELLS);
     tmSetDisplayStyle(edit, 7);
     EXPECT_EQ(Style(edit) & 0x30, 0u);
     EXPECT_EQ(TextOf(edit), "2:05:09 PM");
@@ -419,10 +416,10 @@ TEST_F(TimeEdit, AnswersTheMessagesOfAnEdit) {
     EXPECT_EQ(Send(edit, EM_GETSEL), MAKELONG(2, 4));
     EXPECT_EQ(edits.HeardBy([&] { SendPointer(edit, EM_REPLACESEL, "3:04 PM"); }),
               (Heard{"ask", "changed", "UPDATE", "CHANGE"}));
-    EXPECT_EQ(TimeOf(edit), (VORNTIME{15, 4, 0}));
+    EXPECT_EQ(TimeOf(edit), (TmTime{15, 4, 0}));
     EXPECT_EQ(Refused([&] { SendPointer(edit, EM_REPLACESEL, "5:04 PM"); }), Heard{"ask"});
     EXPECT_EQ(edits.HeardBy([&] { SendPointer(edit, EM_REPLACESEL, "five"); }), Heard{"ask"});
-    EXPECT_EQ(TimeOf(edit), (VORNTIME{15, 4, 0}));
+    EXPECT_EQ(TimeOf(edit), (TmTime{15, 4, 0}));
     Send(edit, EM_SETREADONLY, TRUE);
     EXPECT_EQ(Style(edit) & 0x800, 0x800u);
     Send(edit, EM_SETREADONLY, FALSE);
@@ -437,15 +434,15 @@ TEST_F(TimeEdit, FunctionsBearAnyWindow) {
     DestroyWindow(edit);
     for (HWND window : {HWND{nullptr}, edit, edits.window(), vorn::test::CreateForeignWindow(),
                         vorn::test::DestroyedWindow()}) {
-        VORNTIME time = {1, 2, 3};
-        VORNTIMEEDITPARAMS params;
+        TmTime time = {1, 2, 3};
+        TmEditParams params;
         FillMemory(&params, sizeof params, 0xEE);
         char text[64] = "untouched";
         EXPECT_EQ(tmGetEditParams(window, &params), 0);
         EXPECT_EQ(params.setTime, 0xEEEEEEEE);
         EXPECT_EQ(tmSetEditParams(window, &params), 0);
         EXPECT_EQ(tmGetTime(window, &time), 0);
-        EXPECT_EQ(time, (VORNTIME{1, 2, 3}));
+        EXPECT_EQ(time, (TmTime{1, 2, 3}));
         EXPECT_EQ(tmGetHour(window) + tmGetMinute(window) + tmGetSecond(window), 0u);
         EXPECT_EQ(tmSetTime(window, &time), 0);
         EXPECT_EQ(tmSetDisplayStyle(window, 1), 0);
@@ -467,10 +464,10 @@ TEST_F(TimeEdit, FunctionsBearAnyWindow) {
 
 TEST_F(TimeEdit, LeavesNoObjectsBehind) {
     EXPECT_EQ(vorn::test::ObjectsLeftBy([&] {
-                  HWND edit = CreateAt(4, 5, 6, VTES_DIGITS | VTES_RAISED);
+                  HWND edit = CreateAt(4, 5, 6, VTMS_DIGITS | VTMS_RAISED);
                   SetFocus(edit);
-                  tmSetDisplayStyle(edit, VTED_CELLS);
-                  tmSetDisplayStyle(edit, VTED_DIGITS);
+                  tmSetDisplayStyle(edit, VTMD_CELLS);
+                  tmSetDisplayStyle(edit, VTMD_DIGITS);
                   tmStartClock(edit);
                   UpdateWindow(edit);
                   DestroyWindow(edit);

@@ -21,7 +21,7 @@ TEST(TimeEditRecord, FailedCreationsLeaveNoObject) {
     test::HostWindow host;
     FailAllocationsAfter(0);
     EXPECT_EQ(test::ObjectsLeftBy([&] {
-                  EXPECT_EQ(host.Create(VORN_TIMEEDIT_CLASS, VTES_DIGITS, 0, 0, 100, 24), nullptr);
+                  EXPECT_EQ(host.Create(VORN_TIMEEDIT_CLASS, VTMS_DIGITS, 0, 0, 100, 24), nullptr);
               }),
               "");
     FailAllocationsAfter(-1);
@@ -29,17 +29,17 @@ TEST(TimeEditRecord, FailedCreationsLeaveNoObject) {
 
 TEST(TimeEditRecord, OwnsItsDigitsOnlyWhileTheyAreShown) {
     test::HostWindow host;
-    HWND edit = host.Create(VORN_TIMEEDIT_CLASS, VTES_DIGITS, 0, 0, 100, 24);
+    HWND edit = host.Create(VORN_TIMEEDIT_CLASS, VTMS_DIGITS, 0, 0, 100, 24);
     const auto digits = RecordOf<Record>(edit)->digits;
     for (HBITMAP picture : digits) {
         EXPECT_EQ(GetObjectType(picture), DWORD{OBJ_BITMAP});
     }
-    tmSetDisplayStyle(edit, VTED_CELLS);
+    tmSetDisplayStyle(edit, VTMD_CELLS);
     for (std::size_t index = 0; index < digits.size(); ++index) {
         EXPECT_EQ(GetObjectType(digits[index]), 0u);
         EXPECT_EQ(RecordOf<Record>(edit)->digits[index], nullptr);
     }
-    tmSetDisplayStyle(edit, VTED_DIGITS);
+    tmSetDisplayStyle(edit, VTMD_DIGITS);
     const auto again = RecordOf<Record>(edit)->digits;
     EXPECT_EQ(GetObjectType(again[0]), DWORD{OBJ_BITMAP});
     DestroyWindow(edit);
@@ -51,7 +51,7 @@ TEST(TimeEditRecord, OwnsItsDigitsOnlyWhileTheyAreShown) {
 // Without a picture a digit is written in the font.
 TEST(TimeEditRecord, PaintsWithoutItsPictures) {
     test::HostWindow host;
-    HWND edit = host.Create(VORN_TIMEEDIT_CLASS, VTES_DIGITS, 0, 0, 100, 24);
+    HWND edit = host.Create(VORN_TIMEEDIT_CLASS, VTMS_DIGITS, 0, 0, 100, 24);
     Record* record = RecordOf<Record>(edit);
     edit::ReleaseEdit(*record);
     InvalidateRect(edit, nullptr, FALSE);

@@ -9,12 +9,12 @@
 #include <string>
 #include <vorn32.h>
 
-inline bool operator==(const VORNTIME& first, const VORNTIME& second) {
+inline bool operator==(const TmTime& first, const TmTime& second) {
     return first.hour == second.hour && first.minute == second.minute &&
            first.second == second.second;
 }
 
-inline void PrintTo(const VORNTIME& time, std::ostream* out) {
+inline void PrintTo(const TmTime& time, std::ostream* out) {
     *out << time.hour << ":" << time.minute << ":" << time.second;
 }
 
@@ -38,18 +38,18 @@ protected:
         regional.Set("sTime", ":");
     }
 
-    HWND Create(DWORD style = VTES_SECONDS, int width = 200, int height = 24) {
+    HWND Create(DWORD style = VTMS_SECONDS, int width = 200, int height = 24) {
         return edits.Create(VORN_TIMEEDIT_CLASS, style, width, height);
     }
 
-    HWND CreateAt(WORD hour, WORD minute, WORD second, DWORD style = VTES_SECONDS) {
+    HWND CreateAt(WORD hour, WORD minute, WORD second, DWORD style = VTMS_SECONDS) {
         HWND edit = Create(style);
         Set(edit, hour, minute, second);
         edits.Take();
         return edit;
     }
 
-    HWND CreateFocused(WORD hour, WORD minute, WORD second, DWORD style = VTES_SECONDS) {
+    HWND CreateFocused(WORD hour, WORD minute, WORD second, DWORD style = VTMS_SECONDS) {
         HWND edit = CreateAt(hour, minute, second, style);
         SetFocus(edit);
         PumpMessages();
@@ -58,12 +58,12 @@ protected:
     }
 
     static void Set(HWND edit, WORD hour, WORD minute, WORD second) {
-        const VORNTIME time = {hour, minute, second};
+        const TmTime time = {hour, minute, second};
         EXPECT_EQ(tmSetTime(edit, &time), 1);
     }
 
-    static VORNTIME TimeOf(HWND edit) {
-        VORNTIME time = {99, 99, 99};
+    static TmTime TimeOf(HWND edit) {
+        TmTime time = {99, 99, 99};
         EXPECT_EQ(tmGetTime(edit, &time), 1);
         return time;
     }
