@@ -205,13 +205,13 @@ TEST_F(TimeEditAbuse, BearsMessagesAfterItsRecord) {
     for (UINT message = 1150; message < 1200; ++message) {
         SendMessageA(edit, message, 0, 0);
     }
-    for (const UINT message : {WM_KEYDOWN,   WM_LBUTTONDOWN,  WM_LBUTTONDBLCLK,
-                               WM_LBUTTONUP, WM_MOUSEMOVE,    WM_TIMER,
-                               WM_SETFOCUS,  WM_KILLFOCUS,    WM_ENABLE,
-                               WM_SIZE,      WM_PAINT,        WM_SETFONT,
-                               WM_CUT,       WM_COPY,         WM_PASTE,
-                               WM_CLEAR,     UINT{EM_SETSEL}, UINT{EM_GETMODIFY},
-                               3328u,        3329u,           3333u}) {
+    const std::vector<UINT> messages = {
+        WM_KEYDOWN, WM_LBUTTONDOWN, WM_LBUTTONDBLCLK, WM_LBUTTONUP, WM_MOUSEMOVE,
+        WM_TIMER,   WM_SETFOCUS,    WM_KILLFOCUS,     WM_ENABLE,    WM_SIZE,
+        WM_PAINT,   WM_SETFONT,     WM_CUT,           WM_COPY,      WM_PASTE,
+        WM_CLEAR,   EM_SETSEL,      EM_GETMODIFY,     3328,         3329,
+        3333};
+    for (const UINT message : messages) {
         SendMessageA(edit, message, 567, 0);
     }
     EXPECT_EQ(tmIsNull(edit), 1);
