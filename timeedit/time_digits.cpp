@@ -52,7 +52,8 @@ void TypeAtCaret(TimeEntry& entry, char digit) {
     const edit::FieldMap map = FieldMapOf(time);
     const std::int32_t index = entry.caret.index;
     if (!IsDigitIndex(time, map, index)) {
-        PutCaret(entry.caret, map, index + 1);
+        ReadTypedText(time, time.valueText); // a host's numbers become a time here too
+        PutCaret(entry.caret, FieldMapOf(time), index + 1);
         return;
     }
     const std::int32_t field = FieldAt(map, index);

@@ -122,6 +122,9 @@ TEST(TimeDigits, BehindAFieldOnlyMoveTheCaret) {
     last.Press(kEnd);
     EXPECT_EQ(Shown(last, "7"), (Texts{"12:34:56|"}));
     EXPECT_EQ(last.Value(), (Time{12, 34, 56}));
+    TimeEditor host({12, 34, 228}, TwentyFourHours());
+    host.PutCaretAt(2);
+    EXPECT_EQ(Shown(host, "7"), (Texts{"12:|34:59"})) << "a time in any case";
 }
 
 TEST(TimeDigits, AreRefusedInTheSuffix) {
