@@ -9,12 +9,13 @@ extern const Page kDateEditPage;
 extern const Page kDialPage;
 extern const Page kFontSelectPage;
 extern const Page kPercentBarPage;
+extern const Page kTimeEditPage;
 extern const Page kUdlrPage;
 
 const std::vector<const Page*>& Pages() {
     static const std::vector<const Page*> pages = {
-        &kButtonPage, &kCalendarPage,   &kComboBoxPage,   &kDateEditPage,
-        &kDialPage,   &kFontSelectPage, &kPercentBarPage, &kUdlrPage};
+        &kButtonPage,     &kCalendarPage,   &kComboBoxPage, &kDateEditPage, &kDialPage,
+        &kFontSelectPage, &kPercentBarPage, &kTimeEditPage, &kUdlrPage};
     return pages;
 }
 
