@@ -64,9 +64,6 @@ static LRESULT CALLBACK MainProc(HWND window, UINT message, WPARAM wParam, LPARA
     case WM_SETFOCUS:
         SetFocus(alarmEdit);
         return 0;
-    case WM_WININICHANGE: /* goes to top-level windows only */
-        SendMessage(alarmEdit, message, wParam, lParam);
-        return 0;
     case WM_DESTROY:
         PostQuitMessage(0);
         return 0;
