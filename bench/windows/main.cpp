@@ -13,6 +13,7 @@ int main() {
     bench::Host();
     bench::MeasureButton();
     bench::MeasureCalendar();
+    bench::MeasureDateEdit();
     bench::MeasurePercentBar();
     bench::MeasureDial();
     bench::MeasureFontSelect();

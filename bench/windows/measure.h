@@ -38,6 +38,7 @@ void MeasureLoading();
 void MeasureButton();
 void MeasureDial();
 void MeasureCalendar();
+void MeasureDateEdit();
 void MeasurePercentBar();
 void MeasureFontSelect();
 void MeasureTimeEdit();

@@ -93,7 +93,7 @@ void AddSample(HWND page, const Sample& sample, int id) {
     HWND edit = Add(page, VORN_DATEEDIT_CLASS, "", sample.style | WS_TABSTOP,
                     {sample.left, y, sample.left + kWidth, y + height}, id);
     if ((sample.style & VDTS_CELLS) != 0) { // room for all of them
-        SetWindowPos(edit, nullptr, 0, 0, kWidth + 24, height, SWP_NOMOVE | SWP_NOZORDER);
+        SetWindowPos(edit, nullptr, 0, 0, kWidth + 18, height, SWP_NOMOVE | SWP_NOZORDER);
     }
     if (isLarge) {
         SendMessageA(edit, WM_SETFONT, 0, FALSE);

@@ -1,6 +1,7 @@
 // Time edits whose host does its worst: destroys them in whatever they ask and tell, changes them
 // in there, sends them anything.
 #include "tests/windows/support/abuse.h"
+#include "tests/windows/support/input.h"
 #include "tests/windows/support/spy.h"
 #include "tests/windows/support/time_host.h"
 
@@ -8,9 +9,8 @@
 
 namespace {
 
-using vorn::test::Heard;
+using vorn::test::Events;
 using vorn::test::Message;
-using vorn::test::PressKeys;
 using vorn::test::PumpMessages;
 using vorn::test::SendMouse;
 
@@ -75,14 +75,14 @@ protected:
 
     // A narrow one, so that it scrolls too, with a time on the clipboard.
     HWND CreateNarrow() {
-        HWND edit = edits.Create(VORN_TIMEEDIT_CLASS, VTMS_SECONDS, 50, 24);
+        HWND edit = CreateEdit(VORN_TIMEEDIT_CLASS, VTMS_SECONDS, 50, 24);
         Set(edit, 22, 44, 55);
         SetFocus(edit);
         SendMessageA(edit, EM_SETSEL, 0, -1);
         SendMessageA(edit, WM_COPY, 0, 0);
         SendMessageA(edit, EM_SETSEL, 0, 2);
         PumpMessages();
-        edits.Take();
+        TakeEvents();
         return edit;
     }
 };
@@ -93,19 +93,19 @@ TEST_F(TimeEditAbuse, BearsDestructionInWhateverItAsksAndTells) {
     for (const Story& story : Stories()) {
         HWND whole = CreateNarrow();
         story.run(whole);
-        const std::size_t length = edits.Take().size();
+        const std::size_t length = TakeEvents().size();
         EXPECT_GT(length, 0u) << story.name;
         DestroyWindow(whole);
         for (std::size_t moment = 0; moment < length; ++moment) {
             HWND edit = CreateNarrow();
             std::size_t heard = 0;
-            edits.onHearing = [&](const std::string&, HWND which) {
+            onEvent = [&](HWND, const std::string&) {
                 if (heard++ == moment) {
-                    DestroyWindow(which);
+                    DestroyWindow(edit);
                 }
             };
             story.run(edit);
-            edits.onHearing = nullptr;
+            onEvent = nullptr;
             EXPECT_FALSE(IsWindow(edit)) << story.name << " at " << moment;
             EXPECT_EQ(GetCapture(), nullptr);
             destructions += 1;
@@ -137,7 +137,7 @@ TEST_F(TimeEditAbuse, BearsChangesInWhateverItAsksAndTells) {
     for (const Story& story : Stories()) {
         HWND edit = CreateNarrow();
         int depth = 0;
-        edits.onHearing = [&](const std::string&, HWND which) {
+        onEvent = [&, which = edit](HWND, const std::string&) {
             if (depth > 0 || !IsWindow(which)) {
                 return;
             }
@@ -151,7 +151,7 @@ TEST_F(TimeEditAbuse, BearsChangesInWhateverItAsksAndTells) {
             --depth;
         };
         story.run(edit);
-        edits.onHearing = nullptr;
+        onEvent = nullptr;
         EXPECT_TRUE(IsWindow(edit)) << story.name;
         char text[64];
         EXPECT_EQ(tmGetTimeString(edit, text), text);
@@ -164,7 +164,7 @@ TEST_F(TimeEditAbuse, BearsChangesInWhateverItAsksAndTells) {
 // A host that answers "ask" for a control that is gone by then.
 TEST_F(TimeEditAbuse, ADestroyingAnswerIsARefusal) {
     HWND edit = CreateAt(1, 2, 3);
-    edits.onHearing = [](const std::string& what, HWND which) {
+    onEvent = [](HWND which, const std::string& what) {
         if (what == "ask") {
             DestroyWindow(which);
         }
@@ -189,10 +189,10 @@ TEST_F(TimeEditAbuse, WorksInAClassOfTheHostsOwn) {
     ours.hInstance = GetModuleHandleA(nullptr);
     ours.style &= ~static_cast<UINT>(CS_GLOBALCLASS);
     ASSERT_NE(RegisterClassA(&ours), 0);
-    HWND edit = edits.Create("HostsOwnTime", VTMS_SECONDS, 200, 24);
+    HWND edit = CreateEdit("HostsOwnTime", VTMS_SECONDS, 200, 24);
     Set(edit, 1, 2, 3);
     SetFocus(edit);
-    PressKeys({VK_UP});
+    PressKey(VK_UP);
     EXPECT_EQ(TextOf(edit), "02:02:03 AM");
     DestroyWindow(edit);
     EXPECT_TRUE(UnregisterClassA("HostsOwnTime", GetModuleHandleA(nullptr)));
@@ -200,7 +200,8 @@ TEST_F(TimeEditAbuse, WorksInAClassOfTheHostsOwn) {
 
 // Messages to a window whose record is gone already, as a subclassing host may send them.
 TEST_F(TimeEditAbuse, BearsMessagesAfterItsRecord) {
-    HWND edit = CreateFocused(1, 2, 3);
+    HWND edit = host.Create(VORN_TIMEEDIT_CLASS, VTMS_SECONDS, 10, 10, 200, 24);
+    SetFocus(edit);
     SendMessageA(edit, WM_NCDESTROY, 0, 0);
     for (UINT message = 1150; message < 1200; ++message) {
         SendMessageA(edit, message, 0, 0);
@@ -223,8 +224,13 @@ TEST_F(TimeEditAbuse, BearsRandomMessages) {
     const std::vector<UINT> leftOut = {
         1159,       1160,      1161,       1167,       1177,          1178,           WM_GETTEXT,
         WM_SETTEXT, EM_GETSEL, EM_GETRECT, EM_GETLINE, EM_REPLACESEL, WM_WININICHANGE};
-    vorn::test::SendRandomMessages([&] { return CreateFocused(1, 2, 3); }, 20240813, 20000,
-                                   leftOut);
+    vorn::test::SendRandomMessages(
+        [&] {
+            HWND edit = host.Create(VORN_TIMEEDIT_CLASS, VTMS_SECONDS, 10, 10, 100, 24);
+            SetFocus(edit);
+            return edit;
+        },
+        20240813, 20000, leftOut);
 }
 
 } // namespace

@@ -1,4 +1,5 @@
 // The time edit as a clock.
+#include "tests/windows/support/input.h"
 #include "tests/windows/support/spy.h"
 #include "tests/windows/support/time_host.h"
 
@@ -7,7 +8,7 @@
 
 namespace {
 
-using vorn::test::Heard;
+using vorn::test::Events;
 using vorn::test::PumpFor;
 using vorn::test::Spy;
 using vorn::test::TakeTimer;
@@ -34,7 +35,7 @@ TEST_F(TimeEditClock, RepaintsOnceASecondThoughItsTimerFiresTenTimes) {
     HWND edit = CreateAt(0, 0, 0);
     EXPECT_EQ(tmStartClock(edit), 1);
     PumpFor(1500, [&] { return SecondsBehind(edit) == 0; });
-    edits.Take();
+    TakeEvents();
     std::set<unsigned> seconds;
     const Spy spy(edit);
     PumpFor(3500, [&] {
@@ -50,7 +51,7 @@ TEST_F(TimeEditClock, RepaintsOnceASecondThoughItsTimerFiresTenTimes) {
     EXPECT_GE(paints + 2, seconds.size());
     EXPECT_GE(paints, 2u);
     EXPECT_LE(SecondsBehind(edit), 1u);
-    const Heard heard = edits.Take();
+    const Events heard = events; // of the same ticks: none comes without the loop
     EXPECT_EQ(static_cast<std::size_t>(std::count(heard.begin(), heard.end(), "ask")), ticks);
     EXPECT_EQ(static_cast<std::size_t>(std::count(heard.begin(), heard.end(), "changed")), paints);
     EXPECT_EQ(heard.size(), ticks + paints) << "the parent is told nothing";
@@ -93,10 +94,10 @@ TEST_F(TimeEditClock, LeavesNoTimerBehind) {
 TEST_F(TimeEditClock, ARefusalStopsTheTimeAndNotTheClock) {
     HWND edit = CreateAt(1, 2, 3);
     tmStartClock(edit);
-    edits.allow = false;
+    allowed = 0;
     PumpFor(400);
     EXPECT_EQ(TimeOf(edit), (TmTime{1, 2, 3}));
-    edits.allow = true;
+    allowed = 1;
     EXPECT_TRUE(PumpFor(1000, [&] { return SecondsBehind(edit) <= 1; }));
 }
 
@@ -105,7 +106,7 @@ TEST_F(TimeEditClock, RunsOnUnderTheKeys) {
     HWND edit = CreateFocused(1, 2, 3);
     tmStartClock(edit);
     PumpFor(1500, [&] { return SecondsBehind(edit) == 0; });
-    vorn::test::PressKeys({VK_UP});
+    PressKey(VK_UP);
     EXPECT_TRUE(PumpFor(3000, [&] { return SecondsBehind(edit) == 0; }));
     DWORD start = 99;
     SendMessageA(edit, EM_GETSEL, reinterpret_cast<WPARAM>(&start), 0);
@@ -116,14 +117,14 @@ TEST_F(TimeEditClock, RunsOnUnderTheKeys) {
 TEST_F(TimeEditClock, CanBeDestroyedByItsOwnTick) {
     for (const char* moment : {"ask", "changed"}) {
         HWND edit = CreateAt(0, 0, 0);
-        edits.onHearing = [&](const std::string& what, HWND heard) {
+        onEvent = [&](HWND heard, const std::string& what) {
             if (what == moment) {
                 DestroyWindow(heard);
             }
         };
         tmStartClock(edit);
         EXPECT_TRUE(PumpFor(3000, [&] { return !IsWindow(edit); })) << moment;
-        edits.onHearing = nullptr;
+        onEvent = nullptr;
     }
 }
 

@@ -88,7 +88,7 @@ TEST_F(TimeEditPaint, MarksTheSelectionWhileItHasTheFocus) {
     EXPECT_GT(selected, 50);
     SendMessageA(edit, EM_SETSEL, 0, 8);
     EXPECT_GT(Shown(edit).Count({0, 0, kWidth, kHeight}, System(COLOR_HIGHLIGHT)), 2 * selected);
-    SetFocus(edits.window());
+    SetFocus(host.window());
     EXPECT_EQ(Difference(Written("2:05:09 PM", System(COLOR_WINDOW), System(COLOR_WINDOWTEXT)),
                          Shown(edit)),
               "");

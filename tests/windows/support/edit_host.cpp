@@ -1,90 +1,218 @@
 #include "tests/windows/support/edit_host.h"
 
-#include <map>
+#include <cstdio>
+#include <cstring>
 
 namespace vorn::test {
 namespace {
 
+constexpr UINT kAsk = 1183;
+constexpr UINT kChanged = 1424;
 constexpr char kHostProperty[] = "VornTestEditHost";
 constexpr char kProcedureProperty[] = "VornTestEditProcedure";
+constexpr char kMissing[] = "\x01";
+constexpr char kSection[] = "intl";
 
-constexpr UINT kAsk = WM_USER + 159;
-constexpr UINT kChanged = WM_USER + 400;
-
-std::string NameOf(int code) {
-    const std::map<int, std::string> names = {
-        {EN_SETFOCUS, "SETFOCUS"}, {EN_KILLFOCUS, "KILLFOCUS"}, {EN_UPDATE, "UPDATE"},
-        {EN_CHANGE, "CHANGE"},     {EN_MAXTEXT, "MAXTEXT"},     {EN_HSCROLL, "HSCROLL"}};
-    const auto found = names.find(code);
-    return found == names.end() ? std::to_string(code) : found->second;
+std::string NameOf(WPARAM wParam) {
+    switch (HIWORD(wParam)) {
+    case EN_SETFOCUS:
+        return "EN_SETFOCUS";
+    case EN_KILLFOCUS:
+        return "EN_KILLFOCUS";
+    case EN_CHANGE:
+        return "EN_CHANGE";
+    case EN_UPDATE:
+        return "EN_UPDATE";
+    case EN_MAXTEXT:
+        return "EN_MAXTEXT";
+    case EN_HSCROLL:
+        return "EN_HSCROLL";
+    default:
+        return "code " + std::to_string(HIWORD(wParam));
+    }
 }
 
-WNDPROC ProcedureOf(HWND window) {
-    return reinterpret_cast<WNDPROC>(GetPropA(window, kProcedureProperty));
+void SendKey(WORD key, DWORD flags) {
+    INPUT input{};
+    input.type = INPUT_KEYBOARD;
+    input.ki.wVk = key;
+    input.ki.wScan = static_cast<WORD>(MapVirtualKeyA(key, MAPVK_VK_TO_VSC));
+    input.ki.dwFlags = flags;
+    SendInput(1, &input, sizeof input);
+}
+
+// The keys that are beside the numeric pad's; without this Shift would make them the pad's.
+bool IsExtended(WORD key) {
+    return (key >= VK_PRIOR && key <= VK_DOWN) || key == VK_INSERT || key == VK_DELETE;
+}
+
+void PressWith(WORD modifier, WORD key) {
+    const DWORD flags = IsExtended(key) ? KEYEVENTF_EXTENDEDKEY : 0;
+    if (modifier != 0) {
+        SendKey(modifier, 0);
+    }
+    SendKey(key, flags);
+    SendKey(key, flags | KEYEVENTF_KEYUP);
+    if (modifier != 0) {
+        SendKey(modifier, KEYEVENTF_KEYUP);
+    }
+    PumpMessages();
 }
 
 } // namespace
 
 EditHost::EditHost() {
-    host_.answer = [this](const Message& message) -> std::optional<LRESULT> {
+    host.answer = [this](const Message& message) -> std::optional<LRESULT> {
         if (message.message != WM_COMMAND) {
             return std::nullopt;
         }
-        if (message.wParam == kEditId) {
-            // Its own form: the code stands over the low half of the window.
-            const HWND edit = GetDlgItem(window(), kEditId);
-            const auto half = static_cast<WORD>(reinterpret_cast<UINT_PTR>(edit));
-            const bool isForm = message.lParam == MAKELPARAM(half, EN_HSCROLL);
-            Hear(isForm ? "left HSCROLL" : "code 0", edit);
-        } else if (LOWORD(message.wParam) == kEditId) {
-            Hear(NameOf(HIWORD(message.wParam)), reinterpret_cast<HWND>(message.lParam));
+        const auto edit = reinterpret_cast<HWND>(message.lParam);
+        if (IsWindow(edit)) {
+            Note(edit, NameOf(message.wParam) +
+                           (LOWORD(message.wParam) == GetDlgCtrlID(edit) ? "" : " of another"));
+        } else {
+            char text[64];
+            std::snprintf(text, sizeof text, "%u %u %u %u", LOWORD(message.wParam),
+                          HIWORD(message.wParam), LOWORD(message.lParam), HIWORD(message.lParam));
+            Note(nullptr, text);
         }
         return 0;
     };
 }
 
-HWND EditHost::Create(const char* className, DWORD style, int width, int height) {
-    HWND edit = host_.Create(className, style, 20, 10, width, height, kEditId);
-    if (edit == nullptr) {
-        return nullptr;
+EditHost::~EditHost() {
+    onEvent = nullptr;
+    if (IsWindow(host.window())) {
+        DestroyWindow(host.window());
     }
-    SetPropA(edit, kHostProperty, this);
-    const LONG_PTR before =
-        SetWindowLongPtrA(edit, GWLP_WNDPROC, reinterpret_cast<LONG_PTR>(Procedure));
-    SetPropA(edit, kProcedureProperty, reinterpret_cast<HANDLE>(before));
-    return edit;
 }
 
-Heard EditHost::Take() {
-    Heard taken;
-    taken.swap(heard_);
-    return taken;
-}
-
-void EditHost::Hear(const std::string& what, HWND edit) {
-    heard_.push_back(what);
-    if (onHearing) {
-        onHearing(what, edit);
+void EditHost::Note(HWND edit, const std::string& event) {
+    events.push_back(event);
+    if (onEvent) {
+        const auto act = onEvent;
+        act(edit, event);
     }
 }
 
 LRESULT CALLBACK EditHost::Procedure(HWND window, UINT message, WPARAM wParam, LPARAM lParam) {
     auto* self = static_cast<EditHost*>(GetPropA(window, kHostProperty));
-    WNDPROC procedure = ProcedureOf(window);
+    const auto procedure = reinterpret_cast<WNDPROC>(GetPropA(window, kProcedureProperty));
     if (message == WM_NCDESTROY) {
         RemovePropA(window, kHostProperty);
         RemovePropA(window, kProcedureProperty);
-        SetWindowLongPtrA(window, GWLP_WNDPROC, reinterpret_cast<LONG_PTR>(procedure));
-    } else if (self != nullptr && message == kAsk) {
-        self->Hear("ask", window);
-        return self->allow ? 1 : 0;
-    } else if (self != nullptr && message == kChanged) {
-        self->Hear("changed", window);
-        if (ProcedureOf(window) == nullptr) {
-            return 0; // destroyed meanwhile
-        }
+    } else if (message == kAsk) {
+        self->Note(window, "ask");
+        return self->allowed;
+    } else if (message == kChanged) {
+        self->Note(window, "changed");
+    } else if (message == WM_PAINT && self->notesPaints) {
+        self->Note(window, "paint");
     }
     return CallWindowProcA(procedure, window, message, wParam, lParam);
+}
+
+HWND EditHost::CreateEdit(const char* className, DWORD style, int width, int height) {
+    HWND edit = host.Create(className, style, 10, 10, width, height);
+    if (edit != nullptr) {
+        Watch(edit);
+    }
+    PumpMessages();
+    return edit;
+}
+
+void EditHost::Watch(HWND edit) {
+    SetPropA(edit, kHostProperty, this);
+    SetPropA(edit, kProcedureProperty,
+             reinterpret_cast<HANDLE>(GetWindowLongPtrA(edit, GWLP_WNDPROC)));
+    SetWindowLongPtrA(edit, GWLP_WNDPROC, reinterpret_cast<LONG_PTR>(Procedure));
+}
+
+Events EditHost::TakeEvents() {
+    PumpMessages();
+    Events taken;
+    taken.swap(events);
+    return taken;
+}
+
+std::string EditHost::TextOf(HWND edit) {
+    char text[64] = "";
+    GetWindowTextA(edit, text, sizeof text);
+    return text;
+}
+
+std::string EditHost::SelectionOf(HWND edit) {
+    DWORD start = 99;
+    DWORD end = 99;
+    SendMessageA(edit, EM_GETSEL, reinterpret_cast<WPARAM>(&start), reinterpret_cast<LPARAM>(&end));
+    return std::to_string(start) + "-" + std::to_string(end);
+}
+
+POINT EditHost::CaretAt(HWND edit) {
+    GUITHREADINFO info{};
+    info.cbSize = sizeof info;
+    GetGUIThreadInfo(GetCurrentThreadId(), &info);
+    return info.hwndCaret == edit ? POINT{info.rcCaret.left, info.rcCaret.top} : POINT{-1, -1};
+}
+
+SIZE EditHost::CaretSize(HWND edit) {
+    GUITHREADINFO info{};
+    info.cbSize = sizeof info;
+    GetGUIThreadInfo(GetCurrentThreadId(), &info);
+    return info.hwndCaret == edit ? SIZE{info.rcCaret.right - info.rcCaret.left,
+                                         info.rcCaret.bottom - info.rcCaret.top}
+                                  : SIZE{-1, -1};
+}
+
+void EditHost::SetClipboard(const std::string& text) {
+    ASSERT_TRUE(OpenClipboard(nullptr));
+    EmptyClipboard();
+    HGLOBAL block = GlobalAlloc(GMEM_MOVEABLE, text.size() + 1);
+    std::memcpy(GlobalLock(block), text.c_str(), text.size() + 1);
+    GlobalUnlock(block);
+    SetClipboardData(CF_TEXT, block);
+    CloseClipboard();
+}
+
+std::string EditHost::ClipboardText() {
+    EXPECT_TRUE(OpenClipboard(nullptr));
+    HGLOBAL block = GetClipboardData(CF_TEXT);
+    std::string text = block == nullptr ? "none" : static_cast<const char*>(GlobalLock(block));
+    if (block != nullptr) {
+        GlobalUnlock(block);
+    }
+    CloseClipboard();
+    return text;
+}
+
+void EditHost::PressKey(WORD key) {
+    PressWith(0, key);
+}
+
+void EditHost::PressShifted(WORD key) {
+    PressWith(VK_SHIFT, key);
+}
+
+void EditHost::PressControlled(WORD key) {
+    PressWith(VK_CONTROL, key);
+}
+
+void EditHost::Type(const char* digits) {
+    for (; *digits != '\0'; ++digits) {
+        PressKey(static_cast<WORD>(*digits));
+    }
+}
+
+ChangedProfile::ChangedProfile(const char* key, const char* text) : key_(key) {
+    char old[64] = "";
+    GetProfileStringA(kSection, key, kMissing, old, sizeof old);
+    old_ = old;
+    existed_ = old_ != kMissing;
+    WriteProfileStringA(kSection, key, text);
+}
+
+ChangedProfile::~ChangedProfile() {
+    WriteProfileStringA(kSection, key_.c_str(), existed_ ? old_.c_str() : nullptr);
 }
 
 } // namespace vorn::test

@@ -1,60 +1,72 @@
-// A host of an edit: what it asks and tells, to itself and to its parent, in order.
+// A host of edits: it writes down what an edit tells its parent and asks itself, in order.
 #pragma once
 
 #include "tests/windows/support/host_window.h"
-#include "tests/windows/support/regional.h"
 
 #include <functional>
+#include <gtest/gtest.h>
 #include <string>
 #include <vector>
 
 namespace vorn::test {
 
-using Heard = std::vector<std::string>;
+// "ask" and "changed" are the edit's messages to itself, "paint" that it painted; the others are
+// notifications, such as "EN_UPDATE". One of an unusual form has its numbers.
+using Events = std::vector<std::string>;
 
-constexpr int kEditId = 77;
+class EditHost : public testing::Test {
+protected:
+    HostWindow host;
+    Events events;
+    bool notesPaints = false;
+    LRESULT allowed = 1; // the answer to what the edit asks
+    // Runs inside each event, after it was written down.
+    std::function<void(HWND edit, const std::string& event)> onEvent;
 
-class EditHost {
-public:
     EditHost();
+    ~EditHost() override;
 
-    HWND window() const { return host_.window(); }
-    HostWindow& host() { return host_; }
+    // Creates an edit and looks over its shoulder.
+    HWND CreateEdit(const char* className, DWORD style, int width = 120, int height = 24);
+    void Watch(HWND edit);
 
-    // A visible edit at (20, 10), subclassed so that it is heard.
-    HWND Create(const char* className, DWORD style, int width, int height);
+    Events TakeEvents();
 
-    // What was heard since the last call: "ask" and "changed" for the messages that the edit sends
-    // itself, "SETFOCUS", "UPDATE" and so on for what it tells its parent.
-    Heard Take();
+    static std::string TextOf(HWND edit);
+    // Selection and caret as "0-2".
+    static std::string SelectionOf(HWND edit);
+    static void Select(HWND edit, int start, int end) { SendMessageA(edit, EM_SETSEL, start, end); }
 
-    // The same of what something does, and of the messages that it leaves in the queue.
-    template <class Run>
-    Heard HeardBy(Run run) {
-        Take();
-        run();
-        return Take();
-    }
-    template <class Run>
-    Heard PostedBy(Run run) {
-        run();
-        Take();
-        PumpMessages();
-        return Take();
-    }
+    // Where the caret is, in the client area; {-1, -1} when another window has it or none.
+    static POINT CaretAt(HWND edit);
+    static SIZE CaretSize(HWND edit);
 
-    // The answer to "ask".
-    bool allow = true;
+    static void SetClipboard(const std::string& text);
+    static std::string ClipboardText();
 
-    // Runs inside of everything that is heard.
-    std::function<void(const std::string& what, HWND edit)> onHearing;
+    // Keys as a user makes them, to the window with the focus; returns when they are through.
+    static void PressKey(WORD key);
+    static void PressShifted(WORD key);
+    static void PressControlled(WORD key);
+    static void Type(const char* digits);
 
 private:
     static LRESULT CALLBACK Procedure(HWND window, UINT message, WPARAM wParam, LPARAM lParam);
-    void Hear(const std::string& what, HWND edit);
+    void Note(HWND edit, const std::string& event);
+};
 
-    HostWindow host_;
-    Heard heard_;
+// A section of WIN.INI that is put back as it was.
+class ChangedProfile {
+public:
+    ChangedProfile(const char* key, const char* text);
+    ~ChangedProfile();
+    ChangedProfile(const ChangedProfile&) = delete;
+    ChangedProfile& operator=(const ChangedProfile&) = delete;
+
+private:
+    std::string key_;
+    std::string old_;
+    bool existed_;
 };
 
 } // namespace vorn::test

@@ -2,8 +2,6 @@
 
 #include "tests/windows/support/host_window.h"
 
-#include <iterator>
-
 namespace vorn::test {
 namespace {
 
@@ -13,15 +11,6 @@ void UseMouse(DWORD flags) {
     INPUT input{};
     input.type = INPUT_MOUSE;
     input.mi.dwFlags = flags;
-    SendInput(1, &input, sizeof input);
-    PumpMessages();
-}
-
-void UseKey(WORD key, DWORD flags) {
-    INPUT input{};
-    input.type = INPUT_KEYBOARD;
-    input.ki.wVk = key;
-    input.ki.dwFlags = flags;
     SendInput(1, &input, sizeof input);
     PumpMessages();
 }
@@ -56,15 +45,6 @@ void MoveMouse(HWND window, int x, int y) {
         return now.x == point.x && now.y == point.y;
     });
     PumpMessages();
-}
-
-void PressKeys(std::initializer_list<WORD> keys) {
-    for (const WORD key : keys) {
-        UseKey(key, 0);
-    }
-    for (auto key = std::rbegin(keys); key != std::rend(keys); ++key) {
-        UseKey(*key, KEYEVENTF_KEYUP);
-    }
 }
 
 bool TakeTimer(HWND window, UINT_PTR timer) {

@@ -2,9 +2,8 @@
 #pragma once
 
 #include "tests/windows/support/edit_host.h"
-#include "tests/windows/support/input.h"
 
-#include <gtest/gtest.h>
+#include <list>
 #include <ostream>
 #include <string>
 #include <vorn32.h>
@@ -20,40 +19,39 @@ inline void PrintTo(const TmTime& time, std::ostream* out) {
 
 namespace vorn::test {
 
-class TimeEditTest : public testing::Test {
+class TimeEditTest : public EditHost {
 protected:
-    EditHost edits;
-    RegionalSettings regional;
-
     TimeEditTest() { Use12Hours(); }
 
-    // The user's form; edits that there are have to be told.
+    // One of the user's settings, null for none; as it was at the end of the test. Edits that there
+    // are have to be told.
+    void SetUser(const char* key, const char* text) { settings_.emplace_front(key, text); }
+
     void Use12Hours() { UseForm("0", "AM", "PM"); }
     void Use24Hours() { UseForm("1", "AM", "PM"); }
     void UseForm(const char* form, const char* am, const char* pm) {
-        regional.Set("iTime", form);
-        regional.Set("iTLZero", "0");
-        regional.Set("s1159", am);
-        regional.Set("s2359", pm);
-        regional.Set("sTime", ":");
+        SetUser("iTime", form);
+        SetUser("iTLZero", "0");
+        SetUser("s1159", am);
+        SetUser("s2359", pm);
+        SetUser("sTime", ":");
     }
 
     HWND Create(DWORD style = VTMS_SECONDS, int width = 200, int height = 24) {
-        return edits.Create(VORN_TIMEEDIT_CLASS, style, width, height);
+        return CreateEdit(VORN_TIMEEDIT_CLASS, style, width, height);
     }
 
     HWND CreateAt(WORD hour, WORD minute, WORD second, DWORD style = VTMS_SECONDS) {
         HWND edit = Create(style);
         Set(edit, hour, minute, second);
-        edits.Take();
+        TakeEvents();
         return edit;
     }
 
     HWND CreateFocused(WORD hour, WORD minute, WORD second, DWORD style = VTMS_SECONDS) {
         HWND edit = CreateAt(hour, minute, second, style);
         SetFocus(edit);
-        PumpMessages();
-        edits.Take();
+        TakeEvents();
         return edit;
     }
 
@@ -68,29 +66,25 @@ protected:
         return time;
     }
 
-    static std::string TextOf(HWND edit) {
-        char text[64];
-        GetWindowTextA(edit, text, sizeof text);
-        return text;
-    }
-
-    // Start and end of the selection.
-    static std::pair<DWORD, DWORD> SelectionOf(HWND edit) {
-        DWORD start = 99;
-        DWORD end = 99;
-        SendMessageA(edit, EM_GETSEL, reinterpret_cast<WPARAM>(&start),
-                     reinterpret_cast<LPARAM>(&end));
-        return {start, end};
-    }
-
-    // What a subclassing host that refuses hears and what the edit then still holds.
+    // What is heard while something runs, and of what it leaves in the queue.
     template <class Run>
-    Heard Refused(Run run) {
-        edits.allow = false;
-        const Heard heard = edits.HeardBy(run);
-        edits.allow = true;
+    Events HeardBy(Run run) {
+        TakeEvents();
+        run();
+        return TakeEvents();
+    }
+
+    // The same with a host that refuses.
+    template <class Run>
+    Events Refused(Run run) {
+        allowed = 0;
+        const Events heard = HeardBy(run);
+        allowed = 1;
         return heard;
     }
+
+private:
+    std::list<ChangedProfile> settings_; // the latest first
 };
 
 } // namespace vorn::test
