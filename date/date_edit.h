@@ -3,6 +3,7 @@
 #pragma once
 
 #include "core/edit/edit_border.h"
+#include "core/edit/time_record.h"
 #include "date/date_entry.h"
 
 #include <cstddef>
@@ -45,19 +46,7 @@ static_assert(offsetof(EditParams, monthLeadingZero) == 24);
 static_assert(offsetof(EditParams, dayLeadingZero) == 28);
 static_assert(offsetof(EditParams, fourDigitYear) == 32 && offsetof(EditParams, kinds) == 36);
 
-// A moment as C libraries break it down. Its layout is fixed.
-struct TimeRecord {
-    std::int32_t seconds;
-    std::int32_t minutes;
-    std::int32_t hours;
-    std::int32_t day;   // of the month, from 1
-    std::int32_t month; // from 0
-    std::int32_t year;  // since 1900
-    std::int32_t weekday;
-    std::int32_t dayOfYear; // from 0
-    std::int32_t daylight;
-};
-static_assert(sizeof(TimeRecord) == 36 && offsetof(TimeRecord, year) == 20);
+using edit::TimeRecord;
 
 // A new edit: today, in the user's layout.
 void StartDate(DateEntry& entry, const Date& today, const RegionalProfile& profile);

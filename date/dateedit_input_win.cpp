@@ -1,6 +1,7 @@
 #include "date/dateedit_input_win.h"
 
 #include "core/edit/edit_caret_win.h"
+#include "core/edit/field_edit_win.h"
 #include "core/window_win.h"
 #include "date/date_keys.h"
 #include "date/dateedit_calendar_win.h"
@@ -45,35 +46,15 @@ void PressButton(HWND window) {
     }
 }
 
-void PressText(HWND window, std::int32_t x, bool wholeField) {
-    Record* record = RecordOf<Record>(window);
-    if (!record->focused) {
-        SetFocus(window);
-        return;
-    }
-    const std::uint16_t index = IndexAt(kDateKind, *record, x);
-    const edit::FieldMap map = FieldMapOf(record->entry.date);
-    if (wholeField) {
-        SelectField(record->entry.caret, map, FieldAt(map, index));
-    } else {
-        PutCaret(record->entry.caret, map, index);
-    }
-    Redraw(window);
-    PlaceCaret(kDateKind, window, edit::Told::Yes);
+edit::Actions RunKeyOf(edit::EditBody& body, const edit::Key& key, bool allowed) {
+    return RunKey(static_cast<Record&>(body).entry, key, allowed, Today());
 }
 
-bool IsKeyDown(int key) {
-    return GetKeyState(key) < 0;
+edit::FieldMap MapOf(const edit::EditBody& body) {
+    return FieldMapOf(static_cast<const Record&>(body).entry.date);
 }
 
-bool RunAllowedKey(HWND window, const edit::Key& key) {
-    const bool allowed = IsOkToChange(kDateKind, window);
-    Record* record = RecordOf<Record>(window);
-    if (record == nullptr) {
-        return false;
-    }
-    return PerformEdit(kDateKind, window, RunKey(record->entry, key, allowed, Today()));
-}
+constinit const edit::FieldEdit kDateFields = {kDateKind, RunKeyOf, MapOf};
 
 } // namespace
 
@@ -91,33 +72,12 @@ void OnPress(HWND window, LPARAM lParam, bool wholeField) {
     if (Contains(RightPartOf(window, *record, kDateKind), point)) {
         PressButton(window);
     } else {
-        PressText(window, point.x, wholeField);
+        PressFieldText(kDateFields, window, point, wholeField);
     }
 }
 
-bool OnKeyDown(HWND window, WPARAM key) {
-    const Record* record = RecordOf<Record>(window);
-    if (record == nullptr) {
-        return true;
-    }
-    const edit::Key pressed = {static_cast<std::uint32_t>(key), IsKeyDown(VK_CONTROL),
-                               IsKeyDown(VK_MENU), IsKeyDown(VK_SHIFT)};
-    switch (RouteKey(pressed, record->readOnly)) {
-    case edit::KeyRoute::PassOn:
-        return true;
-    case edit::KeyRoute::FocusNext:
-        FocusTabItem(window, false);
-        return false;
-    case edit::KeyRoute::FocusPrevious:
-        FocusTabItem(window, true);
-        return false;
-    case edit::KeyRoute::Refuse:
-        MessageBeep(MB_ICONHAND);
-        return false;
-    case edit::KeyRoute::Ask:
-        return RunAllowedKey(window, pressed);
-    }
-    return true;
+LRESULT OnKeyDown(const edit::EditMessage& message) {
+    return PressFieldKey(kDateFields, message);
 }
 
 } // namespace vorn::date

@@ -23,8 +23,6 @@ constexpr WORD kPressedButton = 811;
 constexpr edit::SliceCuts kButtonColumns = {16, 2, 4, 8};
 constexpr edit::SliceCuts kButtonRows = {18, 2, 7, 5};
 
-constexpr LRESULT kTimeSizeAnswer = 11;
-
 static_assert(sizeof(DtDate) == sizeof(Date) && offsetof(DtDate, day) == offsetof(Date, day) &&
               offsetof(DtDate, year) == offsetof(Date, year));
 static_assert(sizeof(DtEditParams) == kEditParamsSize &&
@@ -174,13 +172,6 @@ void OnGetTime(HWND window, TimeRecord* time) {
     }
 }
 
-LRESULT OnGetTimeSize(DWORD* size) {
-    if (size != nullptr) {
-        *size = sizeof(TimeRecord);
-    }
-    return kTimeSizeAnswer;
-}
-
 // Messages whose argument is a pointer.
 bool AnswerPointerMessage(HWND window, UINT message, LPARAM lParam, LRESULT& result) {
     result = 0;
@@ -217,7 +208,7 @@ bool AnswerPointerMessage(HWND window, UINT message, LPARAM lParam, LRESULT& res
         OnGetTime(window, reinterpret_cast<TimeRecord*>(lParam));
         return true;
     case VDTM_GETTIMESIZE:
-        result = OnGetTimeSize(reinterpret_cast<DWORD*>(lParam));
+        result = edit::TellTimeSize(reinterpret_cast<std::uint32_t*>(lParam));
         return true;
     default:
         return false;
@@ -305,7 +296,7 @@ extern "C" LRESULT CALLBACK VORNDateEditWinFn(HWND window, UINT message, WPARAM 
         }
         return 0;
     case WM_KEYDOWN:
-        return OnKeyDown(window, wParam) ? DefWindowProcA(window, message, wParam, lParam) : 0;
+        return OnKeyDown({window, message, wParam, lParam});
     case WM_SETTEXT:
         return OnSetText(window, reinterpret_cast<const char*>(lParam));
     case WM_WININICHANGE:

@@ -13,6 +13,7 @@
 #include <vorn32/library.h>
 #include <vorn32/numedit.h>
 #include <vorn32/percentbar.h>
+#include <vorn32/timeedit.h>
 #include <vorn32/udlr.h>
 
 #endif

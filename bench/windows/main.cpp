@@ -20,5 +20,6 @@ int main() {
     bench::MeasureUdlr();
     bench::MeasureDial();
     bench::MeasureFontSelect();
+    bench::MeasureTimeEdit();
     return 0;
 }

@@ -49,5 +49,6 @@ void MeasurePercentBar();
 void MeasureUdlr();
 void MeasureFontSelect();
 void MeasureOutline();
+void MeasureTimeEdit();
 
 } // namespace bench

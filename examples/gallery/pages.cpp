@@ -10,12 +10,13 @@ extern const Page kDialPage;
 extern const Page kFontSelectPage;
 extern const Page kNumEditPage;
 extern const Page kPercentBarPage;
+extern const Page kTimeEditPage;
 extern const Page kUdlrPage;
 
 const std::vector<const Page*>& Pages() {
     static const std::vector<const Page*> pages = {
         &kButtonPage,     &kCalendarPage, &kComboBoxPage,   &kDateEditPage, &kDialPage,
-        &kFontSelectPage, &kNumEditPage,  &kPercentBarPage, &kUdlrPage};
+        &kFontSelectPage, &kNumEditPage,  &kPercentBarPage, &kTimeEditPage, &kUdlrPage};
     return pages;
 }
 

@@ -1,12 +1,10 @@
 // A date to edit, and what a test says to it.
 #pragma once
 
-#include "core/edit/field_keys.h"
 #include "date/date_keys.h"
-#include "tests/support/edit_printing.h"
+#include "tests/support/edit_keys.h"
 
 #include <gtest/gtest.h>
-#include <initializer_list>
 #include <ostream>
 #include <string>
 #include <vector>
@@ -17,30 +15,9 @@ inline void PrintTo(const Date& date, std::ostream* out) {
     *out << "{month " << date.month << ", day " << date.day << ", year " << date.year << "}";
 }
 
-using List = std::vector<edit::Action>;
-using enum edit::ActionKind;
-
-constexpr std::uint32_t kBack = 8;
-constexpr std::uint32_t kSpace = 32;
-constexpr std::uint32_t kEnd = 35;
-constexpr std::uint32_t kHome = 36;
-constexpr std::uint32_t kLeft = 37;
-constexpr std::uint32_t kUp = 38;
-constexpr std::uint32_t kRight = 39;
-constexpr std::uint32_t kDown = 40;
-constexpr std::uint32_t kInsert = 45;
-constexpr std::uint32_t kDelete = 46;
+using namespace edit::keys;
 
 constexpr Date kToday = {8, 17, 2026};
-
-// The notifications of a change, in order, and what an edit does after every key.
-inline const List kChanged = {{SendChanged},   {Notify, 0x400}, {Repaint},
-                              {Notify, 0x300}, {PlaceCaret},    {PostChanged}};
-inline const List kStepped = {{SendChanged},   {Notify, 0x400}, {RepaintText},
-                              {Notify, 0x300}, {PlaceCaret},    {PostChanged}};
-inline const List kBeeped = {{Beep}, {PostChanged}};
-inline const List kMoved = {{PlaceCaret}, {PostChanged}};
-inline const List kMovedAndRepainted = {{Repaint}, {PlaceCaret}, {PostChanged}};
 
 struct Editor {
     DateEntry entry;
@@ -84,20 +61,7 @@ struct Editor {
         return text;
     }
 
-    // The edit text with | at the caret and < > around the selection, as in "<|3 >/5 /7".
-    std::string Shown() const {
-        const std::string text = Text();
-        const edit::TextCaret& caret = entry.caret;
-        const bool selected = HasSelection(caret);
-        std::string shown;
-        for (std::size_t index = 0; index <= text.size(); ++index) {
-            shown += selected && index == caret.selectionStart ? "<" : "";
-            shown += index == caret.index ? "|" : "";
-            shown += selected && index == caret.selectionEnd ? ">" : "";
-            shown += index < text.size() ? text.substr(index, 1) : "";
-        }
-        return shown;
-    }
+    std::string Shown() const { return ShownWithCaret(Text(), entry.caret); }
 
     const Date& Value() const { return entry.date.value; }
     std::int32_t Field() const { return entry.caret.field; }

@@ -20,6 +20,7 @@ constexpr Control kControls[] = {
     {VORN_DIAL_CLASS, WS_TABSTOP},
     {VORN_DATEEDIT_CLASS, VDTS_CALENDAR | VDTS_DIGITS},
     {VORN_NUMEDIT_CLASS, VNMS_SPIN | VNMS_DIGITS},
+    {VORN_TIMEEDIT_CLASS, VTMS_SECONDS | VTMS_RAISED},
 };
 
 TEST(Creation, FailsWithoutMemoryAndLeavesNoBlock) {
