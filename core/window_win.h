@@ -28,10 +28,6 @@ void ChangeStyle(HWND window, DWORD clear, DWORD set);
 // control may be gone afterwards.
 void NotifyParent(HWND window, WORD code);
 
-// Gives the focus to the next or the previous tab stop of the parent, whether that is a dialog or
-// not. Host code runs.
-void FocusTabItem(HWND window, bool previous);
-
 // Whether the control's parent, when asked, says that it is such a host application as the next
 // function looks for. Host code may run.
 bool ParentIsHostApp(HWND window);
