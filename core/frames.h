@@ -13,6 +13,14 @@ constexpr std::uint32_t kBorderLine = 1;
 constexpr std::uint32_t kBorderRaised = 2;
 constexpr std::uint32_t kBorderSunken = 3;
 
+// How thick a border is, in pixels.
+constexpr std::int32_t BorderWidth(std::uint32_t border) {
+    if (border == kBorderLine) {
+        return 1;
+    }
+    return border == kBorderRaised || border == kBorderSunken ? 2 : 0;
+}
+
 // Which of its colours a line takes: the caller's A, B and C, or the system's window frame.
 enum class FramePen : std::uint8_t { A, B, C, WindowFrame };
 

@@ -19,6 +19,18 @@ void CopyText(std::span<char> buffer, const char* text) {
               buffer.end(), '\0');
 }
 
+std::size_t CopyOut(char* buffer, std::size_t size, const char* text) {
+    if (buffer == nullptr || size == 0) {
+        return 0;
+    }
+    std::size_t length = 0;
+    for (; length < size - 1 && text[length] != '\0'; ++length) {
+        buffer[length] = text[length];
+    }
+    buffer[length] = '\0';
+    return length;
+}
+
 TextBuilder StartText(std::span<char> buffer) {
     if (!buffer.empty()) {
         buffer[0] = '\0';

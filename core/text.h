@@ -1,6 +1,7 @@
 // Texts built in buffers of a fixed size.
 #pragma once
 
+#include <cstddef>
 #include <cstdint>
 #include <span>
 
@@ -9,6 +10,11 @@ namespace vorn {
 // Copies a terminated text and fills the rest of the buffer with zeros. What does not fit is cut; a
 // buffer of no size takes nothing.
 void CopyText(std::span<char> buffer, const char* text);
+
+// Copies a text into a host's buffer of `size` characters, cut and terminated, and touches nothing
+// behind it: the size may be a lie. Returns the number of characters copied; 0 when the buffer is
+// null or has no size.
+std::size_t CopyOut(char* buffer, std::size_t size, const char* text);
 
 // A buffer and how much of it is used. The text is terminated as long as the buffer has any room.
 struct TextBuilder {

@@ -19,6 +19,13 @@ void NotifyParent(HWND window, WORD code) {
     SendMessageA(GetParent(window), WM_COMMAND, idAndCode, reinterpret_cast<LPARAM>(window));
 }
 
+void FocusTabItem(HWND window, bool previous) {
+    HWND item = GetNextDlgTabItem(GetParent(window), window, previous);
+    if (item != nullptr) {
+        SetFocus(item);
+    }
+}
+
 bool ParentIsHostApp(HWND window) {
     return SendMessageA(GetParent(window), VORN_WM_IS_HOST_APP, 0, 0) == VORN_HOST_APP_YES;
 }

@@ -1,6 +1,7 @@
 // What controls do to their own window and say to their parent.
 #pragma once
 
+#include "core/geometry.h"
 #include "core/platform_win.h"
 #include "core/steps.h"
 
@@ -15,12 +16,21 @@ inline DWORD StyleOf(HWND window) {
     return static_cast<DWORD>(GetWindowLongA(window, GWL_STYLE));
 }
 
+// The client point that a mouse message is about.
+inline Point PointOf(LPARAM lParam) {
+    return {static_cast<SHORT>(LOWORD(lParam)), static_cast<SHORT>(HIWORD(lParam))};
+}
+
 // Clears some style bits and sets others. Host code may run.
 void ChangeStyle(HWND window, DWORD clear, DWORD set);
 
 // Sends the parent WM_COMMAND with the control's identifier and this code. Host code runs: the
 // control may be gone afterwards.
 void NotifyParent(HWND window, WORD code);
+
+// Gives the focus to the next or the previous tab stop of the parent, whether that is a dialog or
+// not. Host code runs.
+void FocusTabItem(HWND window, bool previous);
 
 // Whether the control's parent, when asked, says that it is such a host application as the next
 // function looks for. Host code may run.

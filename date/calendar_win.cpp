@@ -2,6 +2,7 @@
 #include "date/calendar_win.h"
 
 #include "core/window_win.h"
+#include "date/today_win.h"
 
 #include <vorn32/calendar.h>
 
@@ -25,16 +26,10 @@ void StoreSelection(HWND window, const date::Date& selection) {
     SetWindowWord(window, kDayWord, selection.day);
 }
 
-date::Date Today() {
-    SYSTEMTIME now{};
-    GetSystemTime(&now);
-    return {now.wMonth, now.wDay, now.wYear};
-}
-
 LRESULT OnSetDate(HWND window, WPARAM wParam, LPARAM lParam) {
     const bool today = wParam == 0 && lParam == 0;
-    StoreSelection(window,
-                   today ? Today() : date::Date{LOWORD(lParam), HIWORD(lParam), LOWORD(wParam)});
+    StoreSelection(window, today ? date::Today()
+                                 : date::Date{LOWORD(lParam), HIWORD(lParam), LOWORD(wParam)});
     InvalidateRect(window, nullptr, FALSE);
     UpdateWindow(window);
     return 0;
@@ -71,9 +66,9 @@ void Perform(HWND window, const Actions& actions) {
 
 LRESULT OnPress(HWND window, LPARAM lParam) {
     SetFocus(window); // runs host code
-    const Point point = {static_cast<SHORT>(LOWORD(lParam)), static_cast<SHORT>(HIWORD(lParam))};
     date::Date selection = SelectionOf(window);
-    const Actions actions = Press(selection, CurrentYear(), MeasureCalendar(window), point);
+    const Actions actions =
+        Press(selection, CurrentYear(), MeasureCalendar(window), PointOf(lParam));
     if (actions.count != 0) {
         StoreSelection(window, selection);
         Perform(window, actions);
@@ -89,7 +84,7 @@ date::Date SelectionOf(HWND window) {
 }
 
 std::uint16_t CurrentYear() {
-    return Today().year;
+    return date::Today().year;
 }
 
 } // namespace vorn::calendar

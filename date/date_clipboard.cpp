@@ -132,17 +132,6 @@ void ClearSelection(edit::Actions& actions, DateEntry& entry) {
     }
 }
 
-void CopySelection(std::span<char> buffer, const DateEntry& entry) {
-    char text[kWorkTextSize];
-    FormatEditText(text, entry.date);
-    const std::int32_t length = FieldMapOf(entry.date).length;
-    TextBuilder selected = StartText(buffer);
-    for (std::int32_t index = entry.caret.selectionStart;
-         index < entry.caret.selectionEnd && index < length; ++index) {
-        Append(selected, text[index]);
-    }
-}
-
 bool ReadWholeDate(Date& date, const char* text, const HeldDate& held, const Date& today) {
     const Layout& layout = held.layout;
     Date read = held.value;

@@ -21,9 +21,6 @@ void DeleteBeforeCaret(edit::Actions& actions, DateEntry& entry);
 // selection.
 void ClearSelection(edit::Actions& actions, DateEntry& entry);
 
-// The selected text, cut to the buffer and terminated.
-void CopySelection(std::span<char> buffer, const DateEntry& entry);
-
 // Whether a text is a date in this layout, and no more: the numbers of all three positions in their
 // order, days and months of one or two digits, years of up to as many as the layout has, and the
 // separators between, with blanks around each number as the edit text has them. Such a day must

@@ -52,6 +52,7 @@ void ResetCaret(DateEntry& entry) {
 void EnterFocus(DateEntry& entry) {
     entry.date.focused = 1;
     ClearTypedZeros(entry.date);
+    ResetCaret(entry);
     SelectField(entry.caret, FieldMapOf(entry.date), 0);
 }
 

@@ -41,22 +41,6 @@ std::int32_t ScanNumber(const char*& text) {
     return number;
 }
 
-// The number at the start of a text: blanks, a sign, digits up to the first other character.
-std::int32_t DecimalAt(const char* text) {
-    while (IsBlank(*text)) {
-        ++text;
-    }
-    const bool negative = *text == '-';
-    if (negative || *text == '+') {
-        ++text;
-    }
-    std::int32_t number = 0;
-    for (; IsDigit(*text); ++text) {
-        number = WithDigit(number, *text);
-    }
-    return negative ? -number : number;
-}
-
 std::uint16_t Clamped(std::int32_t value, std::int32_t lowest, std::int32_t highest) {
     return static_cast<std::uint16_t>(std::clamp(value, lowest, highest));
 }
@@ -145,6 +129,21 @@ void SetYear(std::int32_t value, HeldDate& date) {
 }
 
 } // namespace
+
+std::int32_t DecimalAt(const char* text) {
+    while (IsBlank(*text)) {
+        ++text;
+    }
+    const bool negative = *text == '-';
+    if (negative || *text == '+') {
+        ++text;
+    }
+    std::int32_t number = 0;
+    for (; IsDigit(*text); ++text) {
+        number = WithDigit(number, *text);
+    }
+    return negative ? -number : number;
+}
 
 int SetDateField(std::int32_t value, std::int32_t kind, HeldDate& date) {
     switch (kind) {

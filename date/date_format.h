@@ -27,6 +27,10 @@ struct HeldDate {
     char valueText[kValueTextSize] = {};
 };
 
+// The number at the start of a text: blanks, a sign, digits up to the first other character. No
+// digits read as 0, and the number stops at 99,999: beyond any field.
+std::int32_t DecimalAt(const char* text);
+
 // Sets one field. A day is clamped to 1 to 31 whatever the month, and one that the calendar change
 // of 1752 left out becomes the 14th; a month to 1 to 12; a year to 0 to 9999, with the century of
 // the year before it added when years are written with two digits (whatever was given: 2007 into

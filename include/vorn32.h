@@ -7,6 +7,7 @@
 #include <vorn32/button.h>
 #include <vorn32/calendar.h>
 #include <vorn32/combobox.h>
+#include <vorn32/dateedit.h>
 #include <vorn32/dial.h>
 #include <vorn32/fontselect.h>
 #include <vorn32/library.h>

@@ -16,13 +16,6 @@ void SendStyle(HWND button, const Action& action) {
     SendMessageA(button, BM_SETSTYLE, action.value, MAKELPARAM(action.redraw, 0));
 }
 
-void FocusTabItem(HWND window, bool previous) {
-    HWND item = GetNextDlgTabItem(GetParent(window), window, previous);
-    if (item != nullptr) {
-        SetFocus(item);
-    }
-}
-
 // `other` is the button that StyleOther means.
 void Perform(HWND window, HWND other, const Action& action) {
     switch (action.kind) {
@@ -84,10 +77,6 @@ bool React(HWND window, const Event& event, HWND other = nullptr) {
 // An event of the window as it is now.
 Event EventNow(HWND window, EventKind kind) {
     return {kind, StyleOf(window), ClientRect(window)};
-}
-
-Point PointOf(LPARAM lParam) {
-    return {static_cast<SHORT>(LOWORD(lParam)), static_cast<SHORT>(HIWORD(lParam))};
 }
 
 // Whether a window says that it is a button. Host code may run.

@@ -137,10 +137,6 @@ LRESULT OnSystemColors(HWND window) {
     return 0;
 }
 
-Point PointOf(LPARAM lParam) {
-    return {static_cast<std::int16_t>(LOWORD(lParam)), static_cast<std::int16_t>(HIWORD(lParam))};
-}
-
 LRESULT OnPress(HWND window, LPARAM lParam) {
     const bool tabStop = (GetWindowLongA(window, GWL_STYLE) & WS_TABSTOP) != 0;
     return Take(window, [&](State& state) {

@@ -24,18 +24,6 @@ std::uint32_t BorderOfStyleBits(std::uint32_t style) {
     return (style & kStyleLine) != 0 ? kBorderLine : kBorderNone;
 }
 
-std::int32_t BorderWidth(std::uint32_t borderStyle) {
-    switch (borderStyle) {
-    case kBorderLine:
-        return 1;
-    case kBorderRaised:
-    case kBorderSunken:
-        return 2;
-    default:
-        return 0;
-    }
-}
-
 // trunc(percent x width / 100), exact in 64 bits.
 std::int32_t Share(std::int32_t percent, std::int32_t width) {
     return static_cast<std::int32_t>(std::int64_t{percent} * width / 100);

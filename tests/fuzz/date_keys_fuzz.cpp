@@ -195,7 +195,9 @@ struct Session {
     void Perform(const edit::Actions& actions) {
         for (const edit::Action& action : actions) {
             if (action.kind == ActionKind::Copy || action.kind == ActionKind::Cut) {
-                CopySelection(clipboard, entry);
+                char text[kWorkTextSize];
+                FormatEditText(text, entry.date);
+                edit::CopySelected(clipboard, text, entry.caret);
                 Require(
                     std::strlen(clipboard) ==
                     std::min<std::size_t>(sizeof clipboard - 1u,

@@ -1,10 +1,9 @@
 """The sources of the library's pictures: names, sizes, palettes, transparent corners, and that the
 spin pad's pictures show one pad."""
-from pictures import CELLS, FOLDER, LETTERS, SIZES, TRANSPARENT, path_of, rows, strings
+from pictures import CELLS, FOLDER, LETTERS, OPAQUE, SIZES, TRANSPARENT, path_of, rows, strings
 from tree import ROOT, finish
 
 PALETTE = [f"{letter} c #{color}" for letter, color in LETTERS.items()]
-PAD_COLORS = {"000000", "808080", "C0C0C0", "FFFFFF"}
 
 
 def names():
@@ -37,9 +36,9 @@ def form(set_name, cell):
 def colors(set_name, cell):
     pixels = rows(set_name, cell)
     used = {color for row in pixels for color in row}
-    if set_name == "pad":
-        if used - PAD_COLORS:
-            yield "a pad is opaque and gray"
+    if set_name in OPAQUE:
+        if used - OPAQUE[set_name]:
+            yield "has a colour that is not its set's"
         return
     if pixels[-1][0] != TRANSPARENT:
         yield "the bottom-left pixel is not transparent"

@@ -205,7 +205,7 @@ TEST(DateClipboard, KeysAskForTheClipboard) {
 
 std::string Copied(const Editor& editor, std::size_t size) {
     std::vector<char> buffer(size, 'x');
-    CopySelection(buffer, editor.entry);
+    edit::CopySelected(buffer, editor.Text().c_str(), editor.entry.caret);
     return buffer.data();
 }
 

@@ -1,12 +1,12 @@
 // Where a click puts the caret.
-#include "core/caret.h"
+#include "core/edit/edit_layout.h"
 
 #include <cstdint>
 #include <gtest/gtest.h>
 #include <initializer_list>
 #include <string>
 
-namespace vorn {
+namespace vorn::edit {
 namespace {
 
 // Characters as wide as their digits say, in pixels: "5" is 5 wide.
@@ -20,12 +20,14 @@ std::int32_t DigitWidths(void* context, const char* text, std::uint32_t count) {
 }
 
 struct Click {
-    EditCaret caret = {};
+    TextCaret caret = {};
     ShownText shown = {};
     int measured = 0;
 
     int At(std::int32_t x, const char* text) {
-        return CaretFromX(caret, shown, text, x, {&measured, DigitWidths});
+        shown.text = text;
+        shown.measure = {&measured, DigitWidths};
+        return CaretFromX(caret, shown, x);
     }
 };
 
@@ -66,13 +68,13 @@ TEST(CaretFromX, StartsAtTheFirstVisibleCharacter) {
     EXPECT_EQ(click.At(99, "6845"), 4);
     EXPECT_EQ(click.caret.selectionStart, 1) << "the record stays";
     EXPECT_EQ(click.caret.selectionEnd, 3);
-    EXPECT_EQ(click.caret.caret, 2);
-    EXPECT_EQ(click.caret.scrollIndex, 2);
+    EXPECT_EQ(click.caret.index, 2);
+    EXPECT_EQ(click.caret.firstVisible, 2);
 }
 
 TEST(CaretFromX, ScrolledBehindTheText) {
     Click click;
-    click.caret.scrollIndex = 9;
+    click.caret.firstVisible = 9;
     EXPECT_EQ(click.At(0, "684"), 3);
     EXPECT_EQ(click.At(50, "684"), 3);
 }
@@ -85,28 +87,28 @@ TEST(CaretFromX, AnEmptyTextHasOnePlace) {
 
 TEST(CaretFromX, NullClearsTheRecord) {
     Click click;
-    click.shown.isNull = 1;
+    click.shown.isNull = true;
     click.caret = {1, 2, 3, 4};
     EXPECT_EQ(click.At(14, "684"), 0);
     EXPECT_EQ(click.caret.selectionStart, 0);
     EXPECT_EQ(click.caret.selectionEnd, 0);
-    EXPECT_EQ(click.caret.caret, 0);
-    EXPECT_EQ(click.caret.scrollIndex, 0);
+    EXPECT_EQ(click.caret.index, 0);
+    EXPECT_EQ(click.caret.firstVisible, 0);
     EXPECT_EQ(click.measured, 0);
 }
 
 // Cells of 12 pixels from 4 on: half-way at 10, 22 and 34.
 TEST(CaretFromX, CellsAreNotMeasured) {
-    for (const std::uint16_t style : std::initializer_list<std::uint16_t>{2, 3}) {
+    for (const std::uint32_t style : std::initializer_list<std::uint32_t>{2, 3}) {
         Click click;
-        click.shown = {0, style, 12};
+        click.shown = {"", false, style, 12, {}};
         EXPECT_EQ(click.At(9, "684"), 0);
         EXPECT_EQ(click.At(10, "684"), 1);
         EXPECT_EQ(click.At(21, "684"), 1);
         EXPECT_EQ(click.At(22, "684"), 2);
         EXPECT_EQ(click.At(33, "684"), 2);
         EXPECT_EQ(click.At(34, "684"), 3);
-        click.caret.scrollIndex = 1;
+        click.caret.firstVisible = 1;
         EXPECT_EQ(click.At(9, "684"), 1);
         EXPECT_EQ(click.At(10, "684"), 2);
         EXPECT_EQ(click.measured, 0);
@@ -114,13 +116,13 @@ TEST(CaretFromX, CellsAreNotMeasured) {
 }
 
 TEST(CaretFromX, OtherStylesAreMeasured) {
-    for (const std::uint16_t style : std::initializer_list<std::uint16_t>{0, 1, 4}) {
+    for (const std::uint32_t style : std::initializer_list<std::uint32_t>{0, 1, 4}) {
         Click click;
-        click.shown = {0, style, 12};
+        click.shown = {"", false, style, 12, {}};
         EXPECT_EQ(click.At(7, "684"), 1) << style;
         EXPECT_GT(click.measured, 0);
     }
 }
 
 } // namespace
-} // namespace vorn
+} // namespace vorn::edit
