@@ -11,6 +11,7 @@
 #include <vorn32/dial.h>
 #include <vorn32/fontselect.h>
 #include <vorn32/library.h>
+#include <vorn32/numedit.h>
 #include <vorn32/percentbar.h>
 #include <vorn32/udlr.h>
 

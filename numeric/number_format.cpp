@@ -162,7 +162,7 @@ struct Display {
 };
 
 Display DisplayOf(std::uint32_t formatKind) {
-    const bool integer = formatKind >= kInteger && formatKind <= kIntegerGroupedParentheses;
+    const bool integer = IsIntegerKind(formatKind);
     switch (formatKind) {
     case kIntegerGrouped:
     case kFloatingGrouped:
@@ -252,15 +252,13 @@ int StripLeadingZero(std::span<char> text, std::int32_t leadingZero, char decima
     return 1;
 }
 
-int FormatNumber(const NumberSettings& settings, char* text, std::int32_t editForm,
-                 std::span<char, kNumberTextSize> formatted) {
+int FormatValue(const NumberSettings& settings, double value, std::int32_t editForm,
+                std::span<char, kNumberTextSize> formatted) {
     TextBuilder number = StartText(formatted);
     if (settings.isNull != 0) {
         Append(number, ' ');
         return 1;
     }
-    double value = 0;
-    TextToNumber(settings, text, value);
     const Display display = DisplayOf(settings.formatKind);
     if (settings.displayStyle == kDigitDisplay) {
         AppendInteger(number, TruncateToInteger(value));
@@ -283,6 +281,15 @@ int FormatNumber(const NumberSettings& settings, char* text, std::int32_t editFo
     return display.integer
                ? 1
                : StripLeadingZero(formatted, settings.leadingZero, DecimalCharOf(settings));
+}
+
+int FormatNumber(const NumberSettings& settings, char* text, std::int32_t editForm,
+                 std::span<char, kNumberTextSize> formatted) {
+    double value = 0;
+    if (settings.isNull == 0) {
+        TextToNumber(settings, text, value);
+    }
+    return FormatValue(settings, value, editForm, formatted);
 }
 
 } // namespace vorn::numeric

@@ -30,9 +30,13 @@ int GroupThousands(std::span<char> text, const NumberSettings& settings);
 // them or not; leaves the text when `leadingZero` is set.
 int StripLeadingZero(std::span<char> text, std::int32_t leadingZero, char decimalChar);
 
-// Writes the number of a text as it is displayed or, for the edit form, as it is edited: without
-// grouping and parentheses. In the text every decimal character becomes a ".". A null number is a
-// blank. A number that is infinite is not rounded.
+// Writes a number as it is displayed or, for the edit form, as it is edited: without grouping and
+// parentheses. A null number is a blank, whatever the value. A number that is infinite is not
+// rounded.
+int FormatValue(const NumberSettings& settings, double value, std::int32_t editForm,
+                std::span<char, kNumberTextSize> formatted);
+
+// The same with the number of a text, in which every decimal character becomes a ".".
 int FormatNumber(const NumberSettings& settings, char* text, std::int32_t editForm,
                  std::span<char, kNumberTextSize> formatted);
 

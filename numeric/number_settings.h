@@ -25,6 +25,10 @@ constexpr std::uint32_t kFloatingParentheses = 7;
 constexpr std::uint32_t kFloatingGroupedParentheses = 8;
 constexpr std::uint32_t kFloatingUnpadded = 9; // shown as kFloating, stored without decimals
 
+constexpr bool IsIntegerKind(std::uint32_t formatKind) {
+    return formatKind >= kInteger && formatKind <= kIntegerGroupedParentheses;
+}
+
 // The display style that draws the number from bitmaps, which there are for integers alone.
 constexpr std::uint16_t kDigitDisplay = 2;
 

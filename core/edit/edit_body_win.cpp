@@ -50,6 +50,12 @@ Size WindowSize(HWND window) {
     return SizeOf(FromPlatform(rect));
 }
 
+std::int32_t CellWidthIn(const EditKind& kind, const EditBody& body) {
+    const bool ownCells = body.displayStyle == kCharacterCells && kind.cell.width > 0 &&
+                          body.figures.height <= kind.cell.height;
+    return ownCells ? kind.cell.width : CellWidthOf(body.displayStyle, body.figures);
+}
+
 // What a border adds to the size that a font asks for.
 Size FontAllowance(std::uint32_t border) {
     const int borders = BorderAllowance(border);
@@ -141,8 +147,9 @@ BOOL SetEditBorder(const EditKind& kind, HWND window, std::uint32_t border) {
     if (body == nullptr) {
         return FALSE;
     }
-    const Size size =
-        SizeWithBorder(WindowSize(window), SizeOf(ClientRect(window)), body->borderStyle, border);
+    const Size client = SizeOf(ClientRect(window));
+    const Size base = kind.growsSameBorder ? WindowSize(window) : client;
+    const Size size = SizeWithBorder(base, client, body->borderStyle, border);
     if (border <= kBorderSunken) {
         body->borderStyle = border;
     }
@@ -165,11 +172,12 @@ Rect TextAreaOf(HWND window, const EditBody& body, const EditKind& kind) {
 
 ShownEdit::ShownEdit(const EditKind& kind, const EditBody& body) {
     SelectObject(screen_.get(), body.font);
-    kind.writeText(body, text_);
+    const auto write = kind.writeShown != nullptr ? kind.writeShown : kind.writeText;
+    write(body, text_);
     shown_ = {text_,
               kind.isNull(body),
               body.displayStyle,
-              CellWidthOf(body.displayStyle, body.figures),
+              CellWidthIn(kind, body),
               {screen_.get(), TextExtent}};
 }
 

@@ -57,7 +57,7 @@ struct EditKind {
     // The body of the window's record; null when the window is no living control of the class.
     EditBody* (*bodyOf)(HWND window);
 
-    // Writes the text as it is shown and edited, cut to the buffer and terminated.
+    // Writes the text that is edited, cut to the buffer and terminated.
     void (*writeText)(const EditBody& body, TextBuffer& buffer);
 
     // Whether there is no value, whatever the text.
@@ -79,6 +79,19 @@ struct EditKind {
 
     Compactness compactness;
     BorderBits borderBits; // in the order in which creation tests them
+
+    // Writes the text as it is shown, where that is not the one that is edited.
+    void (*writeShown)(const EditBody& body, TextBuffer& buffer) = nullptr;
+
+    // Writes what goes to the clipboard, where that is not the selected text; nothing goes there
+    // when it is empty.
+    void (*writeCopied)(const EditBody& body, TextBuffer& buffer) = nullptr;
+
+    // The size of character cells in fonts that are not higher; else the font decides alone.
+    Size cell{};
+
+    bool tellsScrolling = true;  // kHScroll and kMaxText
+    bool growsSameBorder = true; // a border that is set again comes on top of the one there is
 };
 
 // Reads the style bits that all edits have, and takes the system font. The three styles that

@@ -52,6 +52,9 @@ void PlaceCaret(const EditKind& kind, HWND window, Told told) {
     if (scrolled) {
         RepaintText(kind, window);
     }
+    if (!kind.tellsScrolling) {
+        return;
+    }
     if (told == Told::Yes && scrolled && kind.bodyOf(window) != nullptr) {
         NotifyParent(window, kHScroll);
     }

@@ -73,14 +73,18 @@ bool GetClipboardText(HWND window, std::span<char> buffer) {
 
 bool CopyToClipboard(const EditKind& kind, HWND window) {
     const EditBody* body = kind.bodyOf(window);
-    if (body == nullptr || !HasSelection(*body->caret)) {
+    if (body == nullptr) {
         return false;
     }
-    TextBuffer text;
-    kind.writeText(*body, text);
-    TextBuffer selected;
-    CopySelected(selected, text, *body->caret);
-    return SetClipboardText(window, selected);
+    TextBuffer copied;
+    if (kind.writeCopied != nullptr) {
+        kind.writeCopied(*body, copied);
+    } else {
+        TextBuffer text;
+        kind.writeText(*body, text);
+        CopySelected(copied, text, *body->caret);
+    }
+    return copied[0] != '\0' && SetClipboardText(window, copied);
 }
 
 void CutToClipboard(const EditKind& kind, HWND window) {

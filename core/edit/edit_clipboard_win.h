@@ -7,8 +7,8 @@
 
 namespace vorn::edit {
 
-// Puts the selected text on the clipboard; whether it is there. Nothing is done without a
-// selection.
+// Puts the selected text, or what the kind says, on the clipboard; whether it is there. Nothing is
+// done without a text.
 bool CopyToClipboard(const EditKind& kind, HWND window);
 
 // The same, and then clears the selection; not when the clipboard cannot be had.

@@ -238,7 +238,8 @@ void ClearByMessage(const EditKind& kind, HWND window) {
 }
 
 void CutByMessage(const EditKind& kind, HWND window) {
-    if (CopyToClipboard(kind, window)) {
+    const EditBody* body = kind.bodyOf(window);
+    if (body != nullptr && HasSelection(*body->caret) && CopyToClipboard(kind, window)) {
         ClearByMessage(kind, window);
     }
 }

@@ -11,7 +11,7 @@ HBITMAP LoadButtonPicture(WORD id) {
 }
 
 void DrawSlices(HDC context, const Rect& rect, HBITMAP picture, const SliceCuts& columns,
-                const SliceCuts& rows) {
+                const SliceCuts& rows, std::int32_t cell) {
     HDC memory = picture == nullptr ? nullptr : CreateCompatibleDC(context);
     if (memory == nullptr) {
         return;
@@ -19,12 +19,13 @@ void DrawSlices(HDC context, const Rect& rect, HBITMAP picture, const SliceCuts&
     HGDIOBJ before = SelectObject(memory, picture);
     const SavedContext saved(context);
     SetStretchBltMode(context, COLORONCOLOR);
+    const std::int32_t left = cell * columns.size;
     for (const Slice& row : SlicesOf(rows, Height(rect))) {
         for (const Slice& column : SlicesOf(columns, Width(rect))) {
             if (row.toSize > 0 && column.toSize > 0) {
                 StretchBlt(context, rect.left + column.to, rect.top + row.to, column.toSize,
-                           row.toSize, memory, column.from, row.from, column.fromSize, row.fromSize,
-                           SRCCOPY);
+                           row.toSize, memory, left + column.from, row.from, column.fromSize,
+                           row.fromSize, SRCCOPY);
             }
         }
     }

@@ -11,8 +11,9 @@ namespace vorn::edit {
 // delete; null when it cannot be had.
 HBITMAP LoadButtonPicture(WORD id);
 
-// Fills the rectangle with the picture; a null one paints nothing.
+// Fills the rectangle with the picture, or with that cell of a row of pictures; a null one paints
+// nothing.
 void DrawSlices(HDC context, const Rect& rect, HBITMAP picture, const SliceCuts& columns,
-                const SliceCuts& rows);
+                const SliceCuts& rows, std::int32_t cell = 0);
 
 } // namespace vorn::edit

@@ -12,12 +12,13 @@ LETTERS = {
     "B": "0000FF", "p": "800080", "t": "008080", "C": "00FFFF"}
 SIZES = {"button20": (20, 20), "button16": (16, 15), "hostapp": (20, 20), "pad": (29, 29),
          "fontmark": (16, 12), "yeararrow": (10, 13), "dropdown": (16, 18),
-         "digits13": (19 * 8, 13),
-         "digits19": (19 * 11, 19), "digits26": (19 * 12, 26)}
+         "spin": (12, 10), "digits13": (19 * 8, 13), "digits19": (19 * 11, 19),
+         "digits26": (19 * 12, 26)}
 # The colours of the sets that have no transparent one.
 OPAQUE = {
     "pad": {"000000", "808080", "C0C0C0", "FFFFFF"},
     "dropdown": {"000000", "808080", "C0C0C0", "FFFFFF"},
+    "spin": {"000000", "808080", "C0C0C0", "FFFFFF"},
     "digits13": {"000000", "FFFFFF"}, "digits19": {"000000", "FFFFFF"},
     "digits26": {"000000", "FFFFFF"}}
 # The cells of each set in the order of their numbers.
@@ -37,6 +38,7 @@ CELLS = {
     "fontmark": ["355-truetype", "356-plain"],
     "yeararrow": ["1023-previous", "1025-next"],
     "dropdown": ["810-normal", "811-pressed"],
+    "spin": ["00-up", "01-down", "02-up-pressed", "03-down-pressed"],
     "digits13": ["903-digits"], "digits19": ["913-digits"], "digits26": ["923-digits"]}
 
 

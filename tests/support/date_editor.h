@@ -3,20 +3,13 @@
 
 #include "core/edit/field_keys.h"
 #include "date/date_keys.h"
+#include "tests/support/edit_printing.h"
 
 #include <gtest/gtest.h>
 #include <initializer_list>
 #include <ostream>
 #include <string>
 #include <vector>
-
-namespace vorn::edit {
-
-inline void PrintTo(const Action& action, std::ostream* out) {
-    *out << "{kind " << static_cast<int>(action.kind) << ", " << action.code << "}";
-}
-
-} // namespace vorn::edit
 
 namespace vorn::date {
 
