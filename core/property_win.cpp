@@ -11,7 +11,7 @@ namespace {
 // not there or is no such block.
 class LockedBlock {
 public:
-    LockedBlock(HWND window, const char* name, std::size_t size)
+    LockedBlock(HWND window, const char* name, std::uint16_t size)
         : memory_(GetPropA(window, name)),
           address_(memory_ != nullptr && GlobalSize(memory_) >= size ? GlobalLock(memory_)
                                                                      : nullptr) {}
@@ -30,7 +30,7 @@ private:
     void* address_;
 };
 
-bool MakeBlock(HWND window, const char* name, std::size_t size) {
+bool MakeBlock(HWND window, const char* name, std::uint16_t size) {
     void* block = AllocBlock(nullptr, size);
     if (block == nullptr) {
         return false;
@@ -46,7 +46,7 @@ bool MakeBlock(HWND window, const char* name, std::size_t size) {
 
 } // namespace
 
-bool StoreProperty(HWND window, const char* name, const void* value, std::size_t size) {
+bool StoreProperty(HWND window, const char* name, const void* value, std::uint16_t size) {
     if (GetPropA(window, name) == nullptr && !MakeBlock(window, name, size)) {
         return false;
     }
@@ -58,7 +58,7 @@ bool StoreProperty(HWND window, const char* name, const void* value, std::size_t
     return true;
 }
 
-bool LoadProperty(HWND window, const char* name, void* value, std::size_t size) {
+bool LoadProperty(HWND window, const char* name, void* value, std::uint16_t size) {
     const LockedBlock block(window, name, size);
     if (block.address() == nullptr) {
         return false;

@@ -5,15 +5,15 @@
 
 #include "core/platform_win.h"
 
-#include <cstddef>
+#include <cstdint>
 #include <type_traits>
 
 namespace vorn {
 
 // The value's bytes. Storing makes the block when there is none yet; false when there is no memory,
 // or the property is something else.
-bool StoreProperty(HWND window, const char* name, const void* value, std::size_t size);
-bool LoadProperty(HWND window, const char* name, void* value, std::size_t size);
+bool StoreProperty(HWND window, const char* name, const void* value, std::uint16_t size);
+bool LoadProperty(HWND window, const char* name, void* value, std::uint16_t size);
 
 // Removes the property and frees its block; does nothing when there is none.
 void FreeProperty(HWND window, const char* name);

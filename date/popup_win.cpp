@@ -3,6 +3,7 @@
 #include "date/popup_win.h"
 
 #include "core/classes_win.h"
+#include "core/color_win.h"
 #include "core/gdi_win.h"
 #include "core/property_win.h"
 #include "date/dateedit_win.h"

@@ -1,7 +1,7 @@
 // The dialog that a date edit drops down: its controls, its looks, and what it leaves behind.
+#include "tests/windows/host/popup_host.h"
 #include "tests/windows/support/objects.h"
 #include "tests/windows/support/pixels.h"
-#include "tests/windows/support/popup.h"
 
 #include <cstring>
 #include <tuple>

@@ -1,6 +1,6 @@
 // The dialog that a date edit drops down, run as users see it: what it does to the date.
+#include "tests/windows/host/popup_host.h"
 #include "tests/windows/support/input.h"
-#include "tests/windows/support/popup.h"
 
 #include <tuple>
 

@@ -1,4 +1,4 @@
-#include "tests/windows/support/popup.h"
+#include "tests/windows/host/popup_host.h"
 
 #include "tests/windows/support/input.h"
 
