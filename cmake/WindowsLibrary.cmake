@@ -18,7 +18,8 @@ add_library(VORN32 MODULE ${window_sources} resources/vorn32.rc ${dll_definition
 target_link_libraries(VORN32 PRIVATE vorn_logic vorn_library_settings gcc ${system_libraries})
 target_include_directories(VORN32 PRIVATE include ${CMAKE_BINARY_DIR}/version ${pictures})
 # The resource compiler does not tell which files it reads.
-set(resource_inputs ${picture_bitmaps} ${CMAKE_SOURCE_DIR}/resources/fontselect.rc)
+set(resource_inputs ${picture_bitmaps} ${CMAKE_SOURCE_DIR}/resources/fontselect.rc
+    ${CMAKE_SOURCE_DIR}/resources/popup.rc)
 set_source_files_properties(resources/vorn32.rc PROPERTIES OBJECT_DEPENDS "${resource_inputs}")
 add_dependencies(VORN32 vorn_pictures)
 target_compile_definitions(VORN32 PRIVATE VORN32_BUILD)

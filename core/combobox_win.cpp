@@ -1,6 +1,6 @@
 // The combo box: the system's own, which remembers where the focus came from.
-#include "core/memory.h"
 #include "core/platform_win.h"
+#include "core/property_win.h"
 
 #include <vorn32/combobox.h>
 
@@ -16,79 +16,42 @@ struct FocusRecord {
     HWND previousFocus; // null until the first focus
 };
 
-class LockedRecord {
-public:
-    explicit LockedRecord(HWND window)
-        : memory_(GetPropA(window, kProperty)),
-          record_(memory_ == nullptr ? nullptr : static_cast<FocusRecord*>(GlobalLock(memory_))) {}
-    ~LockedRecord() {
-        if (record_ != nullptr) {
-            GlobalUnlock(memory_);
-        }
-    }
-    LockedRecord(const LockedRecord&) = delete;
-    LockedRecord& operator=(const LockedRecord&) = delete;
-
-    FocusRecord* get() const { return record_; }
-
-private:
-    HGLOBAL memory_;
-    FocusRecord* record_;
-};
-
 WNDPROC FindSystemProcedure() {
     WNDCLASSA systemClass{};
     return GetClassInfoA(nullptr, "COMBOBOX", &systemClass) != 0 ? systemClass.lpfnWndProc
                                                                  : DefWindowProcA;
 }
 
-WNDPROC SystemProcedureOf(HWND window) {
-    const LockedRecord record(window);
-    return record.get() == nullptr ? FindSystemProcedure() : record.get()->systemProcedure;
+FocusRecord RecordIn(HWND window) {
+    return LoadProperty<FocusRecord>(window, kProperty);
 }
 
-// The record is unlocked before the system's procedure runs: that may end the window.
+WNDPROC SystemProcedureOf(HWND window) {
+    const FocusRecord record = RecordIn(window);
+    return record.systemProcedure != nullptr ? record.systemProcedure : FindSystemProcedure();
+}
+
 LRESULT Forward(HWND window, UINT message, WPARAM wParam, LPARAM lParam) {
     return CallWindowProcA(SystemProcedureOf(window), window, message, wParam, lParam);
 }
 
 // Without memory the control is still a combo box.
 void AttachFocusRecord(HWND window) {
-    if (GetPropA(window, kProperty) != nullptr) {
-        return;
-    }
-    void* block = AllocBlock(nullptr, sizeof(FocusRecord));
-    if (block == nullptr) {
-        return;
-    }
-    static_cast<FocusRecord*>(block)->systemProcedure = FindSystemProcedure();
-    HGLOBAL memory = GlobalHandle(block);
-    if (SetPropA(window, kProperty, memory) != 0) {
-        GlobalUnlock(memory);
-    } else {
-        FreeBlock(nullptr, block);
-    }
-}
-
-void DetachFocusRecord(HWND window) {
-    HANDLE memory = RemovePropA(window, kProperty);
-    if (memory != nullptr) {
-        FreeBlock(nullptr, GlobalLock(memory));
+    if (GetPropA(window, kProperty) == nullptr) {
+        StoreProperty(window, kProperty, FocusRecord{FindSystemProcedure(), nullptr});
     }
 }
 
 void RememberFocus(HWND window, HWND previousFocus) {
-    const LockedRecord record(window);
-    if (record.get() != nullptr) {
-        record.get()->previousFocus = previousFocus;
+    FocusRecord record = RecordIn(window);
+    if (record.systemProcedure != nullptr) {
+        record.previousFocus = previousFocus;
+        StoreProperty(window, kProperty, record);
     }
 }
 
 LRESULT PreviousFocus(HWND window) {
-    const LockedRecord record(window);
-    return record.get() == nullptr
-               ? 0
-               : LOWORD(reinterpret_cast<UINT_PTR>(record.get()->previousFocus));
+    return LOWORD(reinterpret_cast<UINT_PTR>(RecordIn(window).previousFocus));
 }
 
 } // namespace
@@ -110,7 +73,7 @@ extern "C" [[gnu::section("VORNCB")]] LRESULT CALLBACK VORNCBFunction(HWND windo
     case WM_NCDESTROY: {
         // The system's procedure ends first: it may still send messages that the record answers.
         const LRESULT result = Forward(window, message, wParam, lParam);
-        DetachFocusRecord(window);
+        FreeProperty(window, kProperty);
         return result;
     }
     case VCBM_GETPREVFOCUS:

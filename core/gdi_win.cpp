@@ -34,6 +34,16 @@ HBITMAP LoadPicture(WORD id) {
         LoadImageA(Module(), MAKEINTRESOURCEA(id), IMAGE_BITMAP, 0, 0, LR_CREATEDIBSECTION));
 }
 
+HFONT CreateFamilyFont(const char* family, BYTE pitchAndFamily, LONG height, LONG weight) {
+    LOGFONTA font{};
+    font.lfHeight = height;
+    font.lfWeight = weight;
+    font.lfCharSet = DEFAULT_CHARSET;
+    font.lfPitchAndFamily = pitchAndFamily;
+    lstrcpynA(font.lfFaceName, family, LF_FACESIZE);
+    return CreateFontIndirectA(&font);
+}
+
 TEXTMETRICA MeasureFont(HFONT font) {
     TEXTMETRICA metrics{};
     const ScreenContext screen;

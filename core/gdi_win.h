@@ -51,6 +51,9 @@ inline HFONT OrSystemFont(HFONT font) {
     return font != nullptr ? font : static_cast<HFONT>(GetStockObject(SYSTEM_FONT));
 }
 
+// A font of a family, by its height in pixels; the caller's to delete.
+HFONT CreateFamilyFont(const char* family, BYTE pitchAndFamily, LONG height, LONG weight);
+
 // The metrics of a font, measured on the screen.
 TEXTMETRICA MeasureFont(HFONT font);
 

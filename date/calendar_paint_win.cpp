@@ -19,15 +19,8 @@ HFONT SystemFont() {
 // The font of the days, for as long as it is needed.
 class SmallFont {
 public:
-    explicit SmallFont(LONG systemHeight) {
-        LOGFONTA font{};
-        font.lfHeight = systemHeight * 7 / 10;
-        font.lfWeight = FW_NORMAL;
-        font.lfCharSet = DEFAULT_CHARSET;
-        font.lfPitchAndFamily = 0x32;
-        lstrcpyA(font.lfFaceName, "Arial");
-        font_ = CreateFontIndirectA(&font);
-    }
+    explicit SmallFont(LONG systemHeight)
+        : font_(CreateFamilyFont("Arial", 0x32, systemHeight * 7 / 10, FW_NORMAL)) {}
     ~SmallFont() { DeleteObject(font_); }
     SmallFont(const SmallFont&) = delete;
     SmallFont& operator=(const SmallFont&) = delete;

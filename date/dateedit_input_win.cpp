@@ -4,8 +4,8 @@
 #include "core/edit/field_edit_win.h"
 #include "core/window_win.h"
 #include "date/date_keys.h"
-#include "date/dateedit_calendar_win.h"
 #include "date/dateedit_win.h"
+#include "date/popup_win.h"
 #include "date/today_win.h"
 
 namespace vorn::date {
@@ -24,7 +24,7 @@ void ShowButton(HWND window, bool pressed) {
 bool ChooseDate(HWND window) {
     ReleaseCapture();
     SetCursor(LoadCursorA(nullptr, IDC_WAIT));
-    return OpenCalendar(window) != kCalendarCancelled;
+    return OpenPopup(window) != kPopupCancelled;
 }
 
 void PressButton(HWND window) {

@@ -3,6 +3,7 @@
 #pragma once
 
 #include "core/geometry.h"
+#include "date/date_value.h"
 
 #include <cstdint>
 
@@ -24,7 +25,6 @@ constexpr std::int32_t kPopupCancelled = 2;
 constexpr std::int32_t kDateErased = 203;
 
 constexpr std::uint16_t kFirstYear = 1; // that can be typed
-constexpr std::uint16_t kLastYear = 9999;
 
 enum class PopupCommand : std::uint8_t {
     None,

@@ -217,6 +217,13 @@ VORNAPI void WINAPI dtSetButtonStyle(HWND window, DWORD buttonStyle);
  */
 VORNAPI char* WINAPI dtSetButtonText(HWND window, int which, const char* text);
 
+/*
+ * The procedure of the calendar's dialog. It is the library's own; the lParam of its WM_INITDIALOG
+ * is not for hosts to give, and the dialog ends at once when it is none of a date edit in the
+ * window that owns the dialog.
+ */
+VORNAPI INT_PTR CALLBACK CalendarProc(HWND dialog, UINT message, WPARAM wParam, LPARAM lParam);
+
 #ifdef __cplusplus
 }
 #endif
