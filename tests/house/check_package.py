@@ -12,8 +12,8 @@ import zipfile
 from tree import LINK, ROOT, finish, tracked
 
 FOLDERS = {"include": "include", "docs": "doc", "examples": "examples"}
-# Preset, suffix of its folders, number of its machine, a symbol's beginning and whether the bytes of
-# the arguments are in it.
+# Preset, suffix of its folders, number of its machine, a symbol's beginning and whether the bytes
+# of the arguments are in it.
 BUILDS = [("i686", "", 0x14C, "_", True), ("x86_64", "64", 0x8664, "", False)]
 GENERATED = {"README.md", "cmake/VORN32ConfigVersion.cmake"}
 
