@@ -81,9 +81,9 @@ def assert_records(language, records):
         yield f"struct copy_{name} {{ {body}}};"
         yield assertion(f"sizeof({name}) == sizeof(struct copy_{name})", f"{name} has another size")
         for kind, (field, _) in zip(types, fields):
-            yield assertion(f"offsetof({name}, {field}) == offsetof(struct copy_{name}, {field}) && "
-                            f"__builtin_types_compatible_p(__typeof__((({name}*)0)->{field}), {kind})",
-                            f"{name}.{field} is another field")
+            same_place = f"offsetof({name}, {field}) == offsetof(struct copy_{name}, {field})"
+            same_type = f"__builtin_types_compatible_p(__typeof__((({name}*)0)->{field}), {kind})"
+            yield assertion(f"{same_place} && {same_type}", f"{name}.{field} is another field")
 
 
 def assert_functions(language, functions):

@@ -1,5 +1,6 @@
-"""What is in the package: exactly the files that belong there, as they are built and tracked, nothing
-that depends on this machine; import libraries for every function; links that lead somewhere.
+"""What is in the package: exactly the files that belong there, as they are built and tracked,
+nothing that depends on this machine; import libraries for every function; links that lead
+somewhere.
 Usage: check_package.py ZIP"""
 import posixpath
 import struct
@@ -11,7 +12,8 @@ import zipfile
 from tree import LINK, ROOT, finish, tracked
 
 FOLDERS = {"include": "include", "docs": "doc", "examples": "examples"}
-# Preset, suffix of its folders, number of its machine, a symbol's beginning, bytes of arguments in it.
+# Preset, suffix of its folders, number of its machine, a symbol's beginning and whether the bytes
+# of the arguments are in it.
 BUILDS = [("i686", "", 0x14C, "_", True), ("x86_64", "64", 0x8664, "", False)]
 GENERATED = {"README.md", "cmake/VORN32ConfigVersion.cmake"}
 
