@@ -15,7 +15,14 @@
 namespace vorn::timeedit {
 namespace {
 
-static_assert(sizeof(TmTime) == sizeof(Time) && sizeof(TmEditParams) == sizeof(EditParams));
+static_assert(sizeof(TmTime) == sizeof(Time) && offsetof(TmTime, minute) == 2 &&
+              offsetof(TmTime, second) == 4);
+static_assert(sizeof(TmEditParams) == sizeof(EditParams) && offsetof(TmEditParams, time) == 4 &&
+              offsetof(TmEditParams, keepFormat) == 12 && offsetof(TmEditParams, separator) == 16 &&
+              offsetof(TmEditParams, leadingZero) == 20 &&
+              offsetof(TmEditParams, twentyFourHour) == 24 &&
+              offsetof(TmEditParams, showSeconds) == 28 && offsetof(TmEditParams, amText) == 32 &&
+              offsetof(TmEditParams, pmText) == 41);
 
 UINT NumberOf(HWND window, std::uint16_t Time::*number) {
     const Record* record = RecordOf<Record>(window);
