@@ -74,6 +74,7 @@ struct ListOptions {
     ListColors colors;
     std::int32_t indent = kDefaultIndent;
     std::int32_t rowHeight = 0;        // of every row of fixed height
+    bool hasOwnRowHeight = false;      // set by the host: fonts leave it alone
     std::int32_t horizontalExtent = 0; // the width that can be scrolled through
     std::int32_t columnWidth = 0;      // 0: as wide as 15 average characters
     std::int32_t averageWidth = 0;     // of the font's characters
