@@ -4,6 +4,7 @@
 #include "hierlist/list_record.h"
 #include "hierlist/list_scroll_win.h"
 #include "hierlist/list_view_win.h"
+#include "tests/windows/support/abuse.h"
 #include "tests/windows/support/outline_list.h"
 
 #include <vector>
@@ -161,6 +162,16 @@ TEST_F(HierListHosts, MayRepaintWithoutEndFromTheirMessages) {
     olbAddString(list, nullptr);
     EXPECT_LT(drawn, 100) << "put off until the paint has ended";
     host.answer = nullptr;
+}
+
+TEST_F(HierListHosts, MaySendAnything) {
+    const auto create = [&] {
+        HWND list = Create(WS_VSCROLL | WS_HSCROLL | OLBS_SUNKEN);
+        AddRows(list, 30);
+        return list;
+    };
+    // The parent is handed what the first carries.
+    test::SendRandomMessages(create, 6207, 20000, {WM_MEASUREITEM});
 }
 
 } // namespace

@@ -211,6 +211,18 @@ TEST_F(HierListLook, TheParentsBrushIsUsedUnlessItIsNone) {
     host.answer = nullptr;
 }
 
+TEST_F(HierListLook, AListWhoseStyleTurnsToColumnsBeginsWithTheFirstRow) {
+    HWND list = Create(WS_VSCROLL);
+    AddRows(list, 20);
+    SendMessageA(list, WM_VSCROLL, SB_BOTTOM, 0);
+    EXPECT_EQ(In(list)->topIndex, 15u);
+    SetWindowLongA(list, GWL_STYLE, GetWindowLongA(list, GWL_STYLE) | LBS_MULTICOLUMN);
+    InvalidateRect(list, nullptr, FALSE);
+    UpdateWindow(list);
+    EXPECT_EQ(In(list)->topIndex, 0u);
+    EXPECT_EQ(GetWindowLongA(list, GWL_STYLE) & WS_VSCROLL, 0);
+}
+
 // ---- Without ----
 
 TEST_F(HierListLook, MissingPicturesDrawNothing) {
