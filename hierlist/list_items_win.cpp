@@ -1,5 +1,5 @@
 // The exported functions that put items into an outline list and open and close them.
-#include "hierlist/list_record.h"
+#include "hierlist/list_record_win.h"
 
 #include <vorn32/hierlist.h>
 

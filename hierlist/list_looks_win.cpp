@@ -85,22 +85,22 @@ extern "C" LONG WINAPI olbGetIndent(HWND window) {
     return record == nullptr ? LB_ERR : record->options.indent;
 }
 
-extern "C" LONG WINAPI olbSetBitmapIndexEx(HWND window, HOLBITEM handle, LONG index) {
+extern "C" LONG WINAPI olbSetBitmapIndexEx(HWND window, HOLBITEM item, LONG index) {
     Record* record = RecordOf<Record>(window);
     if (record == nullptr) {
         return LB_ERR;
     }
-    auto* item = reinterpret_cast<OlbItem*>(handle);
-    if (item == nullptr || item == NoItem()) {
+    auto* target = reinterpret_cast<OlbItem*>(item);
+    if (target == nullptr || target == NoItem()) {
         const LONG before = record->options.defaultPicture;
         record->options.defaultPicture = index;
         RedrawRows(window);
         return before;
     }
-    const LONG before = item->bitmapIndex;
-    SetBitmapIndex(record->outline, item, ToIndex(index));
-    if (QueryVisible(item) == 1) {
-        RedrawRow(window, HandleToIndex(item));
+    const LONG before = target->bitmapIndex;
+    SetBitmapIndex(record->outline, target, ToIndex(index));
+    if (QueryVisible(target) == 1) {
+        RedrawRow(window, HandleToIndex(target));
     }
     return before;
 }

@@ -1,5 +1,5 @@
 // What outline lists ask of a parent that draws their rows, and tell it.
-#include "hierlist/list_record.h"
+#include "hierlist/list_record_win.h"
 #include "hierlist/list_view_win.h"
 #include "tests/windows/support/outline_list.h"
 

@@ -1,6 +1,6 @@
 // What outline lists look like in states that take more than the public functions to reach.
 #include "core/memory.h"
-#include "hierlist/list_record.h"
+#include "hierlist/list_record_win.h"
 #include "hierlist/list_scroll_win.h"
 #include "hierlist/list_view_win.h"
 #include "tests/windows/support/outline_list.h"
