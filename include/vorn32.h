@@ -10,6 +10,7 @@
 #include <vorn32/dateedit.h>
 #include <vorn32/dial.h>
 #include <vorn32/fontselect.h>
+#include <vorn32/hierlist.h>
 #include <vorn32/library.h>
 #include <vorn32/numedit.h>
 #include <vorn32/percentbar.h>

@@ -21,5 +21,6 @@ int main() {
     bench::MeasureDial();
     bench::MeasureFontSelect();
     bench::MeasureTimeEdit();
+    bench::MeasureHierList();
     return 0;
 }

@@ -50,5 +50,6 @@ void MeasureUdlr();
 void MeasureFontSelect();
 void MeasureOutline();
 void MeasureTimeEdit();
+void MeasureHierList();
 
 } // namespace bench

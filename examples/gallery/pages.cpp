@@ -8,15 +8,17 @@ extern const Page kCalendarPage;
 extern const Page kDateEditPage;
 extern const Page kDialPage;
 extern const Page kFontSelectPage;
+extern const Page kHierListPage;
 extern const Page kNumEditPage;
 extern const Page kPercentBarPage;
 extern const Page kTimeEditPage;
 extern const Page kUdlrPage;
 
 const std::vector<const Page*>& Pages() {
-    static const std::vector<const Page*> pages = {
-        &kButtonPage,     &kCalendarPage, &kComboBoxPage,   &kDateEditPage, &kDialPage,
-        &kFontSelectPage, &kNumEditPage,  &kPercentBarPage, &kTimeEditPage, &kUdlrPage};
+    static const std::vector<const Page*> pages = {&kButtonPage,   &kCalendarPage, &kComboBoxPage,
+                                                   &kDateEditPage, &kDialPage,     &kFontSelectPage,
+                                                   &kHierListPage, &kNumEditPage,  &kPercentBarPage,
+                                                   &kTimeEditPage, &kUdlrPage};
     return pages;
 }
 

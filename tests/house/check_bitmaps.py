@@ -10,7 +10,7 @@ from tree import finish
 RT_BITMAP = 2
 SUBFOLDER = 0x80000000
 # Sets that become one bitmap; of the others each file does, and its name begins with the number.
-STRIPS = {222: "button20", 223: "button16", 228: "hostapp", 700: "spin"}
+STRIPS = {217: "outline", 222: "button20", 223: "button16", 228: "hostapp", 700: "spin"}
 BITMAPS = {**{number: (name, CELLS[name]) for number, name in STRIPS.items()},
            **{int(cell.partition("-")[0]): (name, [cell]) for name, cells in CELLS.items()
               if name not in STRIPS.values() for cell in cells}}

@@ -13,7 +13,7 @@ LETTERS = {
 SIZES = {"button20": (20, 20), "button16": (16, 15), "hostapp": (20, 20), "pad": (29, 29),
          "fontmark": (16, 12), "yeararrow": (10, 13), "dropdown": (16, 18),
          "spin": (12, 10), "digits13": (19 * 8, 13), "digits19": (19 * 11, 19),
-         "digits26": (19 * 12, 26)}
+         "digits26": (19 * 12, 26), "outline": (16, 16), "treebox": (11, 11)}
 # The colours of the sets that have no transparent one.
 OPAQUE = {
     "pad": {"000000", "808080", "C0C0C0", "FFFFFF"},
@@ -39,7 +39,12 @@ CELLS = {
     "yeararrow": ["1023-previous", "1025-next"],
     "dropdown": ["810-normal", "811-pressed"],
     "spin": ["00-up", "01-down", "02-up-pressed", "03-down-pressed"],
-    "digits13": ["903-digits"], "digits19": ["913-digits"], "digits26": ["923-digits"]}
+    "digits13": ["903-digits"], "digits19": ["913-digits"], "digits26": ["923-digits"],
+    "outline": [
+        "00-empty", "01-item", "02-document", "03-computer", "04-program", "05-system-file",
+        "06-folder", "07-open-folder", "08-text", "09-help", "10-removable-drive",
+        "11-fixed-drive", "12-network-drive", "13-cd-drive"],
+    "treebox": ["214-closed", "215-open"]}
 
 
 def path_of(set_name, cell):
