@@ -1,6 +1,7 @@
 #include "date/dateedit_input_win.h"
 
 #include "core/edit/edit_caret_win.h"
+#include "core/edit/route_keys_win.h"
 #include "core/window_win.h"
 #include "date/date_keys.h"
 #include "date/dateedit_calendar_win.h"
@@ -62,19 +63,6 @@ void PressText(HWND window, std::int32_t x, bool wholeField) {
     PlaceCaret(kDateKind, window, edit::Told::Yes);
 }
 
-bool IsKeyDown(int key) {
-    return GetKeyState(key) < 0;
-}
-
-bool RunAllowedKey(HWND window, const edit::Key& key) {
-    const bool allowed = IsOkToChange(kDateKind, window);
-    Record* record = RecordOf<Record>(window);
-    if (record == nullptr) {
-        return false;
-    }
-    return PerformEdit(kDateKind, window, RunKey(record->entry, key, allowed, Today()));
-}
-
 } // namespace
 
 void OnPress(HWND window, LPARAM lParam, bool wholeField) {
@@ -100,24 +88,13 @@ bool OnKeyDown(HWND window, WPARAM code) {
     if (record == nullptr) {
         return true;
     }
-    const edit::Key key = {static_cast<std::uint32_t>(code), IsKeyDown(VK_CONTROL),
-                           IsKeyDown(VK_MENU), IsKeyDown(VK_SHIFT)};
-    switch (RouteKey(key, record->readOnly)) {
-    case edit::KeyRoute::PassOn:
-        return true;
-    case edit::KeyRoute::FocusNext:
-        FocusTabItem(window, false);
-        return false;
-    case edit::KeyRoute::FocusPrevious:
-        FocusTabItem(window, true);
-        return false;
-    case edit::KeyRoute::Refuse:
-        MessageBeep(MB_ICONHAND);
-        return false;
-    case edit::KeyRoute::Ask:
-        return RunAllowedKey(window, key);
-    }
-    return true;
+    const edit::Key key = edit::KeyNow(code);
+    return FollowRoute(window, RouteKey(key, record->readOnly), [window, &key] {
+        const bool allowed = IsOkToChange(kDateKind, window);
+        Record* asked = RecordOf<Record>(window);
+        return asked != nullptr &&
+               PerformEdit(kDateKind, window, RunKey(asked->entry, key, allowed, Today()));
+    });
 }
 
 } // namespace vorn::date

@@ -9,6 +9,6 @@ namespace vorn::date {
 void OnPress(HWND window, LPARAM lParam, bool wholeField);
 
 // WM_KEYDOWN. Host code runs. Returns whether the message is to be passed on.
-bool OnKeyDown(HWND window, WPARAM key);
+bool OnKeyDown(HWND window, WPARAM code);
 
 } // namespace vorn::date
