@@ -66,14 +66,10 @@ edit::Actions SetText(NumberEntry& entry, const char* text) {
     return actions;
 }
 
-edit::Actions SetNull(NumberEntry& entry) {
+void SetNull(NumberEntry& entry) {
     entry.settings.isNull = 1;
     entry.text[0] = '\0';
     ResetCaret(entry);
-    edit::Actions actions;
-    Append(actions, {edit::ActionKind::Repaint});
-    Append(actions, {edit::ActionKind::PlaceCaret});
-    return actions;
 }
 
 void SetTextLimit(NumberEntry& entry, std::uint32_t limit) {

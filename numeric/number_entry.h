@@ -52,8 +52,8 @@ void StoreCreationText(NumberEntry& entry, const char* text);
 // Answers the notifications.
 edit::Actions SetText(NumberEntry& entry, const char* text);
 
-// Takes the value away, and its text. Answers the repainting.
-edit::Actions SetNull(NumberEntry& entry);
+// Takes the value away, and its text; caret and selection go to the start.
+void SetNull(NumberEntry& entry);
 
 // The most characters that typing may leave and at which other texts are cut; 0 and what is more
 // than a text can have mean kLongestText. The text there is stays.

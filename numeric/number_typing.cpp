@@ -94,14 +94,12 @@ void Edit(Actions& actions, NumberEntry& entry, char character, bool fromPad, bo
     Draft draft = StartDraft(entry);
     if (IsDigit(character)) {
         TypeDigit(actions, entry, draft, character, overwrite);
-    } else if (character == '-') {
+    } else if (character == '-' || character == '+') {
         TypeSign(actions, entry, draft, character, overwrite);
     } else if (character == 'e' || character == 'E') {
         TypeExponent(actions, entry, draft, overwrite);
     } else if (character == DecimalCharOf(entry.settings) || (character == '.' && fromPad)) {
         TypePoint(actions, entry, draft, overwrite);
-    } else if (character == '+') {
-        TypeSign(actions, entry, draft, character, overwrite);
     } else {
         Beep(actions);
     }

@@ -1,5 +1,5 @@
 // The numeric edit's exported functions, but for those of its value.
-#include "core/edit/edit_border.h"
+#include "core/edit/edit_border_win.h"
 #include "core/edit/edit_caret_win.h"
 #include "core/profile_win.h"
 #include "core/window_win.h"
@@ -134,7 +134,7 @@ extern "C" BOOL WINAPI nmSetColor(HWND window, int slot, COLORREF colorCode) {
         return FALSE;
     }
     SetColorSlot(record->colors, edit::kColorSlots, slot, colorCode);
-    return RedrawWindow(window, nullptr, nullptr, RDW_INVALIDATE | RDW_FRAME | RDW_UPDATENOW);
+    return edit::RedrawWithBorder(window);
 }
 
 extern "C" BOOL WINAPI nmSetNull(HWND window) {
@@ -142,7 +142,11 @@ extern "C" BOOL WINAPI nmSetNull(HWND window) {
         return FALSE;
     }
     SetNull(RecordOf<Record>(window)->entry);
-    return Show(window);
+    const BOOL result = Show(window);
+    if (RecordOf<Record>(window) != nullptr) {
+        SendMessageA(window, VNMM_CHANGED, 0, 0);
+    }
+    return result;
 }
 
 extern "C" BOOL WINAPI nmIsNull(HWND window) {

@@ -15,7 +15,7 @@ void EndSpin(HWND window);
 
 // These answer whether the message is left to the default procedure.
 bool OnTimer(HWND window, WPARAM timer);
-bool OnKeyDown(HWND window, WPARAM key);
+bool OnKeyDown(HWND window, WPARAM code);
 bool OnCharacter(HWND window, WPARAM character);
 
 } // namespace vorn::numeric

@@ -1,27 +1,21 @@
 #include "core/edit/field_edit_win.h"
 
 #include "core/edit/edit_caret_win.h"
+#include "core/edit/route_keys_win.h"
 #include "core/window_win.h"
 
 namespace vorn::edit {
 namespace {
 
-bool IsDown(int key) {
-    return GetKeyState(key) < 0;
-}
-
 LRESULT PassOn(const EditMessage& message) {
     return DefWindowProcA(message.window, message.message, message.wParam, message.lParam);
 }
 
-LRESULT AskAndRun(const FieldEdit& edit, const EditMessage& message, const Key& key) {
-    const bool allowed = IsOkToChange(edit.kind, message.window);
-    EditBody* body = edit.kind.bodyOf(message.window);
-    if (body == nullptr) {
-        return 0;
-    }
-    const bool passOn = PerformEdit(edit.kind, message.window, edit.runKey(*body, key, allowed));
-    return passOn ? PassOn(message) : 0;
+// Returns whether the message is to be passed on.
+bool AskAndRun(const FieldEdit& edit, HWND window, const Key& key) {
+    const bool allowed = IsOkToChange(edit.kind, window);
+    EditBody* body = edit.kind.bodyOf(window);
+    return body != nullptr && PerformEdit(edit.kind, window, edit.runKey(*body, key, allowed));
 }
 
 } // namespace
@@ -31,23 +25,10 @@ LRESULT PressFieldKey(const FieldEdit& edit, const EditMessage& message) {
     if (body == nullptr) {
         return PassOn(message);
     }
-    const Key key = {static_cast<std::uint32_t>(message.wParam), IsDown(VK_CONTROL),
-                     IsDown(VK_MENU), IsDown(VK_SHIFT)};
-    const KeyRoute route = RouteKey(key, body->readOnly);
-    switch (route) {
-    case KeyRoute::PassOn:
-        return PassOn(message);
-    case KeyRoute::FocusNext:
-    case KeyRoute::FocusPrevious:
-        FocusTabItem(message.window, route == KeyRoute::FocusPrevious);
-        return 0;
-    case KeyRoute::Refuse:
-        MessageBeep(MB_ICONHAND);
-        return 0;
-    case KeyRoute::Ask:
-        break;
-    }
-    return AskAndRun(edit, message, key);
+    const Key key = KeyNow(message.wParam);
+    const bool passOn = FollowRoute(message.window, RouteKey(key, body->readOnly),
+                                    [&] { return AskAndRun(edit, message.window, key); });
+    return passOn ? PassOn(message) : 0;
 }
 
 void PressFieldText(const FieldEdit& edit, HWND window, Point point, bool wholeField) {

@@ -70,7 +70,7 @@ const Deed kDeeds[] = {
      },
      {"ask", "code 1280", "changed"}},
     {"float", 0, [](HWND edit) { nmSetDouble(edit, &kNumber); }, {"ask", "changed"}},
-    {"null", 0, [](HWND edit) { nmSetNull(edit); }, {"ask"}},
+    {"null", 0, [](HWND edit) { nmSetNull(edit); }, {"ask", "changed"}},
     {"record",
      0,
      [](HWND edit) {
