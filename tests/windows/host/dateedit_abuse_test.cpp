@@ -183,6 +183,19 @@ TEST_F(DateEditAbuse, TheFocusMayGoElsewhereInANotification) {
     EXPECT_EQ(TextOf(edit), "4/5/2007");
 }
 
+TEST_F(DateEditAbuse, LeavesTheCaretOfTheWindowThatGotTheFocusMeanwhile) {
+    CreateFocused();
+    HWND other = host.Create("EDIT", WS_TABSTOP, 10, 100, 80, 20, 1002);
+    onEvent = [&](HWND, const std::string& event) {
+        if (event == "EN_KILLFOCUS") {
+            SetFocus(other);
+        }
+    };
+    SetFocus(host.window());
+    ASSERT_EQ(GetFocus(), other);
+    EXPECT_GE(CaretAt(other).x, 0);
+}
+
 TEST_F(DateEditAbuse, TheFocusMayComeBackAtOnce) {
     HWND edit = CreateFocused();
     bool once = true;
