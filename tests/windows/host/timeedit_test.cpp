@@ -5,8 +5,9 @@
 #include "tests/windows/support/spy.h"
 #include "tests/windows/support/time_host.h"
 
-#include <array>
 #include <cstring>
+#include <functional>
+#include <vector>
 
 namespace {
 
@@ -286,6 +287,35 @@ TEST_F(TimeEdit, TakesItsFormatEvenWhenTheTimeIsRefused) {
     EXPECT_EQ(TextOf(edit), "1.02.03 morgens");
     EXPECT_EQ(tmSetEditParams(edit, nullptr), 0);
     EXPECT_EQ(tmGetEditParams(edit, nullptr), 0);
+}
+
+TEST_F(TimeEdit, RepaintsAtOnceAndOnce) {
+    HWND edit = CreateAt(14, 5, 9);
+    UpdateWindow(edit);
+    Spy spy(edit);
+    std::vector<RECT> areas;
+    spy.before = [&](const vorn::test::Message& message) {
+        if (message.message == WM_PAINT) {
+            areas.emplace_back();
+            GetUpdateRect(edit, &areas.back(), FALSE);
+        }
+    };
+    const auto paintsOf = [&](const std::function<void()>& run) {
+        areas.clear();
+        run();
+        return areas.size();
+    };
+    EXPECT_EQ(paintsOf([&] { Set(edit, 1, 2, 3); }), 1u);
+    EXPECT_EQ(areas[0].left, 0);
+    EXPECT_EQ(paintsOf([&] { tmSetNull(edit); }), 1u);
+    EXPECT_EQ(paintsOf([&] { tmSetTimeString(edit, "4:05:06 AM"); }), 1u);
+    EXPECT_EQ(paintsOf([&] { tmSetColor(edit, 77, 0); }), 1u) << "whatever the slot";
+    EXPECT_EQ(paintsOf([&] { SendPointer(edit, WM_WININICHANGE, "intl"); }), 1u);
+    const TmEditParams params = ParamsOf(edit);
+    EXPECT_EQ(paintsOf([&] { tmSetEditParams(edit, &params); }), 1u);
+    const RECT text = {4, 0, 200, 24};
+    EXPECT_TRUE(EqualRect(&areas[0], &text)) << "from the text's left edge on";
+    EXPECT_EQ(spy.Received(WM_ERASEBKGND).size(), 0u);
 }
 
 TEST_F(TimeEdit, ParamsEndNull) {

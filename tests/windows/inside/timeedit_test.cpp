@@ -17,6 +17,47 @@ TEST(TimeEditRecord, IsInWindowLongEight) {
     EXPECT_NE(RecordOf<Record>(edit), nullptr);
 }
 
+TEST(TimeEditRecord, StartsWithTheDefaults) {
+    test::HostWindow host;
+    HWND edit = host.Create(VORN_TIMEEDIT_CLASS, 0, 0, 0, 100, 24);
+    const Record& record = *RecordOf<Record>(edit);
+    EXPECT_EQ(record.colors.highlight, static_cast<ColorCode>(-21));
+    EXPECT_EQ(record.colors.shadow, static_cast<ColorCode>(-17));
+    EXPECT_EQ(record.colors.background, static_cast<ColorCode>(-6));
+    EXPECT_EQ(record.colors.text, static_cast<ColorCode>(-9));
+    EXPECT_EQ(record.colors.face, static_cast<ColorCode>(-16));
+    EXPECT_EQ(record.font, GetStockObject(SYSTEM_FONT));
+    EXPECT_EQ(record.displayStyle, 0u);
+    EXPECT_EQ(record.borderStyle, 0u);
+    EXPECT_FALSE(record.readOnly);
+    EXPECT_FALSE(record.disabled);
+    EXPECT_EQ(record.entry.time.null, 0);
+    EXPECT_EQ(record.entry.time.am, record.entry.time.value.hour < 12 ? 1 : 0);
+    EXPECT_EQ(record.entry.time.format.showSeconds, 0);
+}
+
+TEST(TimeEditRecord, ReadsItsStyle) {
+    test::HostWindow host;
+    const struct {
+        DWORD style;
+        std::uint32_t display;
+        std::uint32_t border;
+    } cases[] = {{0x10, 2, 0},   {0x20, 3, 0},   {0x30, 3, 0},   {0x1000, 0, 2}, {0x2000, 0, 3},
+                 {0x4000, 0, 1}, {0x3000, 0, 2}, {0x6000, 0, 3}, {0x7000, 0, 2}};
+    for (const auto& [style, display, border] : cases) {
+        HWND edit = host.Create(VORN_TIMEEDIT_CLASS, style, 0, 0, 100, 24);
+        EXPECT_EQ(RecordOf<Record>(edit)->displayStyle, display) << style;
+        EXPECT_EQ(RecordOf<Record>(edit)->borderStyle, border) << style;
+        DestroyWindow(edit);
+    }
+    HWND edit = host.Create(VORN_TIMEEDIT_CLASS, 0x840 | WS_DISABLED, 0, 0, 100, 24);
+    EXPECT_TRUE(RecordOf<Record>(edit)->readOnly);
+    EXPECT_TRUE(RecordOf<Record>(edit)->disabled);
+    EXPECT_EQ(RecordOf<Record>(edit)->entry.time.format.showSeconds, 1);
+    EnableWindow(edit, TRUE);
+    EXPECT_FALSE(RecordOf<Record>(edit)->disabled);
+}
+
 TEST(TimeEditRecord, FailedCreationsLeaveNoObject) {
     test::HostWindow host;
     FailAllocationsAfter(0);
