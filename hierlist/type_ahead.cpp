@@ -9,6 +9,19 @@ bool IsIgnored(char character) {
     return character == '\t' || character == '\r' || character == ' ' || character == '\0';
 }
 
+// Searches from an item up to and including `last`, or to the last sibling for null.
+std::uint32_t FirstMatch(Outline& outline, OlbItem* item, const OlbItem* last, const char* text) {
+    for (; item != nullptr; item = item->nextSibling) {
+        // A child that was put at a position under a hidden parent need not be a row.
+        const std::uint32_t row =
+            Matches(outline, item, text, false) ? RowOf(outline, item) : kNoRow;
+        if (row != kNoRow || item == last) {
+            return row;
+        }
+    }
+    return kNoRow;
+}
+
 void AppendOnCaret(Actions& actions, Outline& outline, const Input& input, ActionKind kind) {
     const std::uint32_t row = CaretRow(outline, input.selection);
     if (row != kNoRow) {
@@ -20,28 +33,18 @@ void AppendOnCaret(Actions& actions, Outline& outline, const Input& input, Actio
 
 } // namespace
 
-std::uint32_t FindSibling(const Outline& outline, std::uint32_t start, const char* text) {
-    const OlbItem* from = IndexToHandle(outline, start);
+std::uint32_t FindSibling(Outline& outline, std::uint32_t start, const char* text) {
+    OlbItem* from = IndexToHandle(outline, start);
     const bool isNested = from != nullptr && from->parent != nullptr;
-    const OlbItem* first = isNested ? from->parent->firstChild : outline.top.firstChild;
-    const OlbItem* item = from != nullptr ? from->nextSibling : first;
-    for (; item != nullptr; item = item->nextSibling) {
-        if (Matches(outline, item, text, false)) {
-            return HandleToIndex(item);
-        }
+    OlbItem* first = isNested ? from->parent->firstChild : outline.top.firstChild;
+    std::uint32_t row = kNoRow;
+    if (from != nullptr) {
+        row = FirstMatch(outline, from->nextSibling, nullptr, text);
     }
-    if (from == nullptr) {
-        return kNoRow;
+    if (row == kNoRow) {
+        row = FirstMatch(outline, first, from, text);
     }
-    for (item = first; item != nullptr; item = item->nextSibling) {
-        if (Matches(outline, item, text, false)) {
-            return HandleToIndex(item);
-        }
-        if (item == from) {
-            break;
-        }
-    }
-    return kNoRow;
+    return row;
 }
 
 Actions SelectString(Outline& outline, Input& input, std::uint32_t start, const char* text,

@@ -9,7 +9,7 @@ namespace vorn::hierlist {
 // those after it, then of those from the first up to and including it. In a list of values one that
 // is the value `text`. Among the items at the top, from the first, when there is no such row.
 // kNoRow when none matches. Takes a step for each sibling.
-std::uint32_t FindSibling(const Outline& outline, std::uint32_t start, const char* text);
+std::uint32_t FindSibling(Outline& outline, std::uint32_t start, const char* text);
 
 // Selects the row that FindSibling finds. `row` becomes that row.
 Actions SelectString(Outline& outline, Input& input, std::uint32_t start, const char* text,
