@@ -21,6 +21,7 @@ void ExtendDragTo(Actions& actions, Outline& outline, Input& input, std::uint32_
         MoveCaret(actions, outline, input, row); // the press has deselected a row
     } else {
         SelectAt(actions, outline, input, row, 0, Tell::Parent);
+        selection.rangeEnd = selection.anchor;
     }
 }
 
