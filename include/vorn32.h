@@ -9,6 +9,7 @@
 #include <vorn32/combobox.h>
 #include <vorn32/dial.h>
 #include <vorn32/fontselect.h>
+#include <vorn32/hierlist.h>
 #include <vorn32/library.h>
 #include <vorn32/percentbar.h>
 #include <vorn32/udlr.h>

@@ -1,0 +1,140 @@
+#include "hierlist/list_paint_win.h"
+
+#include "core/color_win.h"
+#include "core/gdi_win.h"
+#include "core/window_win.h"
+#include "hierlist/list_host_win.h"
+#include "hierlist/list_view_win.h"
+
+namespace vorn::hierlist {
+namespace {
+
+static_assert(kStyleOwnerDrawFixed == LBS_OWNERDRAWFIXED);
+static_assert(kStyleOwnerDrawVariable == LBS_OWNERDRAWVARIABLE);
+static_assert(kStyleMultiColumn == LBS_MULTICOLUMN);
+static_assert(kStyleDisableNoScroll == LBS_DISABLENOSCROLL);
+
+bool Meet(const Rect& first, const RECT& second) {
+    return first.left < second.right && second.left < first.right && first.top < second.bottom &&
+           second.top < first.bottom;
+}
+
+// The brush that the parent gives; null when it gives none, or something else.
+HBRUSH AskBrush(HWND window, HDC context) {
+    const LRESULT answer =
+        SendMessageA(GetParent(window), WM_CTLCOLORLISTBOX, reinterpret_cast<WPARAM>(context),
+                     reinterpret_cast<LPARAM>(window));
+    auto* const brush = reinterpret_cast<HBRUSH>(answer);
+    return brush != nullptr && GetObjectType(brush) == OBJ_BRUSH ? brush : nullptr;
+}
+
+// The list's own background is the DC's brush: there is none to make, which could fail.
+Ground OwnGround(HDC context, const Record& record) {
+    const COLORREF color = ResolveColor(record.options.colors.background);
+    SetDCBrushColor(context, color);
+    return {static_cast<HBRUSH>(GetStockObject(DC_BRUSH)), color};
+}
+
+// The ground of a list that asks its parent. Runs host code.
+Ground GroundOf(HWND window, HDC context) {
+    const Record* record = RecordOf<Record>(window);
+    const bool asks = HasOption(record->options, kOptionAskBackground);
+    HBRUSH brush = asks ? AskBrush(window, context) : nullptr;
+    record = RecordOf<Record>(window);
+    if (record == nullptr) {
+        return {};
+    }
+    Ground ground = OwnGround(context, *record);
+    if (brush != nullptr) {
+        ground.brush = brush;
+        LOGBRUSH description{};
+        if (GetObjectA(brush, sizeof description, &description) != 0 &&
+            description.lbStyle == BS_SOLID) {
+            ground.color = description.lbColor;
+        }
+    }
+    return ground;
+}
+
+// A list without a caret has it in the first row that it shows, where the keys then begin.
+void GiveCaret(Record& record) {
+    OlbItem* top = IndexToHandle(record.outline, record.topIndex);
+    if (!IsItem(record.caret) && top != nullptr) {
+        record.caret = top;
+        if (HasOption(record.options, kOptionFocus)) {
+            top->flags |= kFlagCaret;
+        }
+    }
+}
+
+UINT StateOf(const OlbItem* item) {
+    return ((item->flags & kFlagSelected) != 0 ? UINT{ODS_SELECTED} : 0) |
+           ((item->flags & kFlagCaret) != 0 ? UINT{ODS_FOCUS} : 0);
+}
+
+// Has the parent draw a row. What it does to the context is undone. Runs host code.
+void AskToDraw(HWND window, HDC context, const PlacedRow& placed) {
+    const SavedContext saved(context);
+    IntersectClipRect(context, placed.rect.left, placed.rect.top, placed.rect.right,
+                      placed.rect.bottom);
+    DRAWITEMSTRUCT question{};
+    question.CtlType = ODT_LISTBOX;
+    question.CtlID = static_cast<UINT>(GetDlgCtrlID(window));
+    question.itemID = placed.row;
+    question.itemAction = ODA_DRAWENTIRE;
+    question.itemState = StateOf(placed.item);
+    question.hwndItem = window;
+    question.hDC = context;
+    question.rcItem = ToPlatform(placed.rect);
+    question.itemData = OwnerDrawData(placed.item);
+    SendMessageA(GetParent(window), WM_DRAWITEM, question.CtlID,
+                 reinterpret_cast<LPARAM>(&question));
+}
+
+} // namespace
+
+void PaintFocus(HDC context, const Rect& rect) {
+    SetTextColor(context, RGB(0, 0, 0));
+    SetBkColor(context, RGB(255, 255, 255));
+    const RECT area = ToPlatform(rect);
+    DrawFocusRect(context, &area);
+}
+
+void PaintRows(HWND window, const OffscreenPaint& offscreen) {
+    const HDC context = offscreen.context();
+    const Ground ground = GroundOf(window, context);
+    Record* record = RecordOf<Record>(window);
+    if (record == nullptr) {
+        return;
+    }
+    GiveCaret(*record);
+    FillRect(context, &offscreen.area(), ground.brush);
+    SelectObject(context, record->font);
+    SetBkMode(context, TRANSPARENT);
+
+    const bool ownerDrawn = (StyleOf(window) & kStyleOwnerDraw) != 0;
+    const Layout layout = LayoutOf(*record);
+    const Rect area = FromPlatform(offscreen.area());
+    PlacedRow placed = FirstRowIn(layout, area);
+    if (placed.item == nullptr && RowCount(layout) == 0 &&
+        HasOption(record->options, kOptionFocus)) {
+        PaintFocus(context, {0, 0, layout.client.width, layout.rowHeight});
+    }
+    while (placed.item != nullptr && !IsBeyond(layout, placed, area)) {
+        if (Meet(placed.rect, offscreen.area())) {
+            if (ownerDrawn) {
+                AskToDraw(window, context, placed);
+            } else {
+                PaintRow(context, *record, layout, placed, ground);
+            }
+            // The parent may have done anything.
+            record = RecordOf<Record>(window);
+            if (record == nullptr) {
+                return;
+            }
+        }
+        placed = NextRow(layout, placed);
+    }
+}
+
+} // namespace vorn::hierlist

@@ -1,0 +1,202 @@
+// The outline list's window procedure.
+#include "core/gdi_win.h"
+#include "core/window_win.h"
+#include "hierlist/list_border_win.h"
+#include "hierlist/list_font_win.h"
+#include "hierlist/list_host_win.h"
+#include "hierlist/list_paint_win.h"
+#include "hierlist/list_scroll_win.h"
+#include "hierlist/list_view_win.h"
+
+#include <vorn32/hierlist.h>
+
+namespace vorn::hierlist {
+namespace {
+
+constexpr WORD kClosedBox = 214;
+constexpr WORD kOpenBox = 215;
+constexpr WORD kPictures = 217;
+constexpr int kPicturesInStrip = 14;
+
+static_assert(kStyleHorizontalBar == WS_HSCROLL && kStyleVerticalBar == WS_VSCROLL);
+static_assert(kStyleBorderLine == WS_BORDER);
+
+// The size of one picture of a strip; of what is usual when there is no strip.
+Size PictureSize(HBITMAP strip) {
+    BITMAP header{};
+    if (GetObjectA(strip, sizeof header, &header) == 0) {
+        return {16, 16};
+    }
+    return {header.bmWidth / kPicturesInStrip, header.bmHeight};
+}
+
+// The control shows its scroll bars itself when they are needed, so the style goes without.
+LRESULT OnNcCreate(HWND window, WPARAM wParam, LPARAM lParam) {
+    if (DefWindowProcA(window, WM_NCCREATE, wParam, lParam) == 0) {
+        return 0;
+    }
+    Record* record = AttachRecord<Record>(window);
+    if (record == nullptr) {
+        return 0;
+    }
+    const DWORD style = StyleOf(window);
+    HBITMAP strip = LoadPicture(kPictures);
+    record->window = window;
+    record->strips.own = strip;
+    record->boxes = {LoadPicture(kClosedBox), LoadPicture(kOpenBox)};
+    record->options = OptionsFromStyle(style, PictureSize(strip));
+    record->outline.callbacks = &kListCallbacks;
+    record->outline.context = record;
+    TakeFont(*record, nullptr);
+    const DWORD border = StyleWithBorder(style, record->options.border);
+    ChangeStyle(window, ~0u, border & ~DWORD{WS_VSCROLL | WS_HSCROLL});
+    record = RecordOf<Record>(window);
+    if (record == nullptr) {
+        return 0;
+    }
+    record->outline.style = StyleOf(window);
+    return 1;
+}
+
+LRESULT OnCreate(HWND window) {
+    if ((StyleOf(window) & kStyleOwnerDrawFixed) != 0) {
+        AskRowHeight(window);
+    }
+    UpdateBars(window);
+    return RecordOf<Record>(window) != nullptr ? 0 : -1;
+}
+
+void OnNcDestroy(HWND window) {
+    Record* record = RecordOf<Record>(window);
+    if (record == nullptr) {
+        return;
+    }
+    Destroy(record->outline);
+    for (void* strip : record->strips.level) {
+        DeleteObject(strip);
+    }
+    DeleteObject(record->strips.user);
+    DeleteObject(record->strips.own);
+    for (HBITMAP box : record->boxes) {
+        DeleteObject(box);
+    }
+    FreeColumns(record->columns);
+    FreeTabStops(record->tabs);
+    DetachRecord<Record>(window);
+}
+
+// While drawing is off nothing is painted; all of it is when it is on again.
+LRESULT OnPaint(HWND window, WPARAM wParam, LPARAM lParam) {
+    UpdateStaleBars(window);
+    const Record* record = RecordOf<Record>(window);
+    if (record == nullptr) {
+        return IsWindow(window) ? DefWindowProcA(window, WM_PAINT, wParam, lParam) : 0;
+    }
+    if (record->redrawOff) {
+        ValidateRect(window, nullptr);
+        return 0;
+    }
+    return PaintWindow<Record>(window, PaintRows);
+}
+
+void OnSetRedraw(HWND window, bool on) {
+    Record* record = RecordOf<Record>(window);
+    if (record == nullptr) {
+        return;
+    }
+    const bool wasOff = record->redrawOff;
+    record->redrawOff = !on;
+    if (on && wasOff) {
+        UpdateStaleBars(window);
+        InvalidateRect(window, nullptr, FALSE);
+    }
+}
+
+// Rows in columns lie elsewhere in another height, and highlights to the right edge end elsewhere.
+void OnSize(HWND window) {
+    const Record* record = RecordOf<Record>(window);
+    if (record == nullptr) {
+        return;
+    }
+    const bool multiColumn = (StyleOf(window) & kStyleMultiColumn) != 0;
+    if (multiColumn || HasOption(record->options, kOptionFullRow)) {
+        InvalidateRect(window, nullptr, FALSE);
+    }
+    if (!record->settingBars) {
+        UpdateBars(window);
+    }
+}
+
+void OnStyleChanged(HWND window, WPARAM which) {
+    Record* record = RecordOf<Record>(window);
+    if (record != nullptr && static_cast<int>(which) == GWL_STYLE) {
+        record->outline.style = StyleOf(window);
+        ForgetColumns(*record);
+    }
+}
+
+LRESULT OnDrawingMessage(HWND window, UINT message, WPARAM wParam, LPARAM lParam) {
+    switch (message) {
+    case WM_SETFONT:
+        OnSetFont(window, reinterpret_cast<HFONT>(wParam), LOWORD(lParam) != 0);
+        return 0;
+    case WM_GETFONT:
+        return OnGetFont(window);
+    case WM_SETREDRAW:
+        OnSetRedraw(window, wParam != 0);
+        return 0;
+    case WM_SYSCOLORCHANGE:
+        InvalidateRect(window, nullptr, FALSE);
+        return 0;
+    case WM_MEASUREITEM:
+        return OnMeasureItem(window, wParam, lParam);
+    case WM_VSCROLL:
+        OnVerticalScroll(window, wParam);
+        return 0;
+    case WM_HSCROLL:
+        OnHorizontalScroll(window, wParam);
+        return 0;
+    case WM_MOUSEWHEEL:
+        OnWheel(window, wParam);
+        return 0;
+    case WM_MOUSEHWHEEL:
+        OnSideWheel(window, wParam);
+        return 0;
+    default:
+        return DefWindowProcA(window, message, wParam, lParam);
+    }
+}
+
+} // namespace
+} // namespace vorn::hierlist
+
+using namespace vorn::hierlist;
+
+extern "C" LRESULT CALLBACK VORNHierListWinFn(HWND window, UINT message, WPARAM wParam,
+                                              LPARAM lParam) {
+    switch (message) {
+    case WM_NCCREATE:
+        return OnNcCreate(window, wParam, lParam);
+    case WM_CREATE:
+        return OnCreate(window);
+    case WM_NCDESTROY:
+        OnNcDestroy(window);
+        return DefWindowProcA(window, message, wParam, lParam);
+    case WM_NCCALCSIZE:
+        return OnCalcSize(window, wParam, lParam);
+    case WM_NCPAINT:
+        return OnPaintBorder(window, wParam, lParam);
+    case WM_ERASEBKGND:
+        return 1; // every paint covers all of it
+    case WM_PAINT:
+        return OnPaint(window, wParam, lParam);
+    case WM_SIZE:
+        OnSize(window);
+        return 0;
+    case WM_STYLECHANGED:
+        OnStyleChanged(window, wParam);
+        return 0;
+    default:
+        return OnDrawingMessage(window, message, wParam, lParam);
+    }
+}

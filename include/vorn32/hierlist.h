@@ -1,0 +1,56 @@
+/*
+ * VORN32: the outline list (window class "VORNHierList32").
+ *
+ * A list box whose rows are the open part of a tree of items. An item with children is open, with
+ * its children as the rows below it, one level deeper, or closed. It takes the styles of the
+ * system's list box (LBS_...), paints itself or has its parent paint (LBS_OWNERDRAWFIXED,
+ * LBS_OWNERDRAWVARIABLE), and scrolls by scroll bars that it shows when they are needed and the
+ * window was created with WS_VSCROLL or WS_HSCROLL.
+ *
+ * An item is named in two ways: by its handle, which stays the same until the item is deleted, and
+ * by its row, its 0-based position among the visible items. Functions whose names end in Ex take
+ * and give handles, the others rows. The number -1 stands for no row and for failure.
+ *
+ * Functions answer -1 for a window that is no outline list, unless they say otherwise.
+ */
+#ifndef VORN32_HIERLIST_H
+#define VORN32_HIERLIST_H
+
+#include <vorn32/library.h>
+
+/* Window styles beside those of the system's list box and WS_BORDER. */
+#define OLBS_SUNKEN 0x4000 /* a sunken frame */
+#define OLBS_RAISED 0x8000 /* a raised frame */
+
+/* An item's handle. Where none is asked for or there is none to give: null or OLB_NOITEM. */
+/* NOLINTNEXTLINE(modernize-use-using): C has no other way */
+typedef struct OLBITEM_* HOLBITEM;
+#define OLB_NOITEM ((HOLBITEM)(LONG_PTR)-1)
+
+#ifdef __cplusplus
+extern "C" {
+#endif
+
+/*
+ * Add an item as a child: behind its new siblings, or in order with LBS_SORT. The parent is a row
+ * or a handle; none means the top level. An owner-drawn list without LBS_HASSTRINGS keeps the
+ * pointer as a value and never reads a text there. The result is the new item's row (of an item
+ * that is hidden, its position among its siblings) or its handle; -1 or OLB_NOITEM when memory ran
+ * out.
+ */
+VORNAPI LONG WINAPI olbAddString(HWND window, LPCSTR text);
+VORNAPI LONG WINAPI olbAddChildString(HWND window, LONG parent, LPCSTR text);
+VORNAPI HOLBITEM WINAPI olbAddChildStringEx(HWND window, HOLBITEM parent, LPCSTR text);
+
+/*
+ * Make rows of an item's children, and hide them with all below them. A locked item, one without
+ * children and a row that does not exist cannot be opened; a locked one can be closed.
+ */
+VORNAPI void WINAPI olbOpenItem(HWND window, LONG row);
+VORNAPI void WINAPI olbCloseItem(HWND window, LONG row);
+
+#ifdef __cplusplus
+}
+#endif
+
+#endif
