@@ -10,7 +10,6 @@
 #include <cstdint>
 #include <cstring>
 #include <functional>
-#include <set>
 #include <string>
 #include <vector>
 
@@ -187,7 +186,12 @@ private:
         return text;
     }
 
-    static ListHost& Of(void* context) { return *static_cast<ListHost*>(context); }
+    static Input& InputOf(void* context) { return static_cast<ListHost*>(context)->input; }
+    static void Deselected(void* context, OlbItem* item) {
+        DropDeselected(InputOf(context).selection, item);
+    }
+    static void Retired(void* context, OlbItem* item) { DropItem(InputOf(context), item); }
+    static void Cleared(void* context) { DropAllItems(InputOf(context)); }
 
     static constexpr Callbacks kCallbacks = {
         [](void*, const char* first, const char* second) { return std::strcmp(first, second); },
@@ -197,9 +201,9 @@ private:
         [](void*) {},
         [](void*) {},
         [](void*, Redraw, std::uint32_t) {},
-        [](void* context, OlbItem* item) { DropDeselected(Of(context).input.selection, item); },
-        [](void* context, OlbItem* item) { DropItem(Of(context).input, item); },
-        [](void* context) { DropAllItems(Of(context).input); },
+        Deselected,
+        Retired,
+        Cleared,
         [](void*, OlbItem*, std::uintptr_t) { return true; },
         [](void*, OlbItem*) -> std::uintptr_t { return 0; },
     };
