@@ -8,6 +8,11 @@ namespace {
 constexpr char kHostAppClass[] = "rwswnd";
 constexpr int kClassNameSize = 60;
 
+bool IsContainer(HWND window) {
+    return (GetWindowLongA(window, GWL_EXSTYLE) & WS_EX_CONTROLPARENT) != 0 &&
+           (StyleOf(window) & WS_CHILD) != 0;
+}
+
 } // namespace
 
 void ChangeStyle(HWND window, DWORD clear, DWORD set) {
@@ -46,6 +51,17 @@ UINT KeyboardSetting(UINT setting) {
     DWORD value = 0;
     SystemParametersInfoA(setting, 0, &value, 0);
     return LOWORD(value);
+}
+
+void FocusTabItem(HWND control, bool previous) {
+    HWND dialog = GetParent(control);
+    while (IsContainer(dialog)) {
+        dialog = GetParent(dialog);
+    }
+    HWND item = dialog == nullptr ? nullptr : GetNextDlgTabItem(dialog, control, previous);
+    if (item != nullptr) {
+        SetFocus(item);
+    }
 }
 
 } // namespace vorn

@@ -37,4 +37,9 @@ CaptureOwner NewCaptureOwner(HWND window, LPARAM lParam);
 // the low 16 bits of it.
 UINT KeyboardSetting(UINT setting);
 
+// Gives the focus to the tab item after the control, or before it, in the dialog that the control
+// is in: its parent, or where that is a container within another window's tab order, that window.
+// Host code runs: the control may be gone afterwards.
+void FocusTabItem(HWND control, bool previous);
+
 } // namespace vorn

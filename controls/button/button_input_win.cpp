@@ -16,13 +16,6 @@ void SendStyle(HWND button, const Action& action) {
     SendMessageA(button, BM_SETSTYLE, action.value, MAKELPARAM(action.redraw, 0));
 }
 
-void FocusTabItem(HWND window, bool previous) {
-    HWND item = GetNextDlgTabItem(GetParent(window), window, previous);
-    if (item != nullptr) {
-        SetFocus(item);
-    }
-}
-
 // `other` is the button that StyleOther means.
 void Perform(HWND window, HWND other, const Action& action) {
     switch (action.kind) {

@@ -2,6 +2,7 @@
 #include "controls/dial/dial_win.h"
 
 #include "controls/dial/dial_input.h"
+#include "core/perform_win.h"
 #include "core/window_win.h"
 
 #include <vorn32/dial.h>
@@ -18,14 +19,6 @@ void SendScroll(HWND window, const Action& action) {
     const bool toParent = GetWindowWord(window, VORN_DIAL_RECEIVER) == 0;
     SendMessageA(toParent ? GetParent(window) : window, WM_VSCROLL,
                  MAKEWPARAM(action.code, action.position), reinterpret_cast<LPARAM>(window));
-}
-
-void MoveFocus(HWND window, BOOL back) {
-    const HWND parent = GetParent(window);
-    const HWND next = parent != nullptr ? GetNextDlgTabItem(parent, window, back) : nullptr;
-    if (next != nullptr) {
-        SetFocus(next);
-    }
 }
 
 void MakeFace(HWND window) {
@@ -57,10 +50,10 @@ void Perform(HWND window, const Action& action) {
         SetFocus(window);
         break;
     case ActionKind::FocusNext:
-        MoveFocus(window, FALSE);
+        FocusTabItem(window, false);
         break;
     case ActionKind::FocusPrevious:
-        MoveFocus(window, TRUE);
+        FocusTabItem(window, true);
         break;
     case ActionKind::MakeSmallest:
         SetWindowPos(window, nullptr, 0, 0, kSmallestWindow.width, kSmallestWindow.height,
@@ -76,18 +69,9 @@ void Perform(HWND window, const Action& action) {
 template <class Step>
 LRESULT Take(HWND window, Step step) {
     Record* record = RecordOf<Record>(window);
-    if (record == nullptr) {
-        return 0;
-    }
-    const Actions actions = step(record->state);
-    for (const Action& action : actions) {
-        record = RecordOf<Record>(window);
-        if (record == nullptr) {
-            break;
-        }
-        if (!IsStale(record->state, action)) {
-            Perform(window, action);
-        }
+    if (record != nullptr) {
+        PerformActions<Record>(window, step(record->state),
+                               [window](const Action& action) { Perform(window, action); });
     }
     return 0;
 }
@@ -148,14 +132,9 @@ LRESULT OnPress(HWND window, LPARAM lParam) {
     });
 }
 
-LRESULT OnCaptureChanged(HWND window, HWND owner) {
-    CaptureOwner who = CaptureOwner::Other;
-    if (owner == nullptr) {
-        who = CaptureOwner::Nobody;
-    } else if (owner == window) {
-        who = CaptureOwner::Self;
-    }
-    return Take(window, [&](State& state) { return CaptureChanged(state, who); });
+LRESULT OnCaptureChanged(HWND window, LPARAM lParam) {
+    const CaptureOwner owner = NewCaptureOwner(window, lParam);
+    return Take(window, [&](State& state) { return CaptureChanged(state, owner); });
 }
 
 LRESULT OnTimer(HWND window, WPARAM timer) {
@@ -258,7 +237,7 @@ extern "C" LRESULT CALLBACK VORNDialWinFn(HWND window, UINT message, WPARAM wPar
             return Release(state, ClientSize(window), PointOf(lParam));
         });
     case WM_CAPTURECHANGED:
-        return OnCaptureChanged(window, reinterpret_cast<HWND>(lParam));
+        return OnCaptureChanged(window, lParam);
     default:
         return DefWindowProcA(window, message, wParam, lParam);
     }

@@ -15,7 +15,17 @@ constexpr DWORD kTab = WS_TABSTOP;
 
 // An edit, the dialog's default button, two picture buttons, a system button, another edit and a
 // picture button of its own.
-enum Id { kOk = 1, kEdit = 10, kFirst = 20, kSecond = 30, kSystem = 40, kNote = 50, kLast = 60 };
+enum Id {
+    kOk = 1,
+    kEdit = 10,
+    kFirst = 20,
+    kSecond = 30,
+    kSystem = 40,
+    kNote = 50,
+    kLast = 60,
+    kBox = 70,
+    kInBox = 80,
+};
 
 ScriptedDialog Mixed(DWORD pictureStyle = 0) {
     return ScriptedDialog({
@@ -30,7 +40,7 @@ ScriptedDialog Mixed(DWORD pictureStyle = 0) {
 }
 
 void Focus(ScriptedDialog& dialog, int item) {
-    dialog.Do([item](HWND window) { SetFocus(GetDlgItem(window, item)); });
+    dialog.Do([&dialog, item](HWND window) { SetFocus(dialog.Item(window, item)); });
     dialog.ExpectFocus(item);
 }
 
@@ -219,6 +229,71 @@ TEST_F(ButtonDialog, GainingTheFocusEndsToggleAndAutoRepeat) {
     dialog.Expect("the style", style, {VBTS_TOGGLE | VBTS_AUTOREPEAT});
     Focus(dialog, kFirst);
     dialog.Expect("the style", style, {VBTS_DEFAULT});
+    dialog.Run(host.window());
+}
+
+// A container in the dialog, whose items are part of the dialog's tab order.
+constexpr vorn::test::DialogItem kContainer = {kBox, "STATIC", 0, WS_EX_CONTROLPARENT};
+
+TEST_F(ButtonDialog, ARunReachesIntoAContainer) {
+    ScriptedDialog dialog({
+        {kEdit, "EDIT", kTab},
+        kContainer,
+        {kInBox, "EDIT", kTab, 0, kBox},
+        {kFirst, VORN_BUTTON_CLASS, kTab, 0, kBox},
+        {kSystem, "BUTTON", kTab, 0, kBox},
+        {kSecond, VORN_BUTTON_CLASS, kTab},
+        {kNote, "EDIT", kTab},
+    });
+    Focus(dialog, kSystem);
+    dialog.PressKey(VK_TAB);
+    dialog.ExpectFocus(kSecond);
+    dialog.ExpectDefaults({kSecond});
+    dialog.PressKey(VK_TAB);
+    dialog.ExpectFocus(kNote);
+    dialog.ExpectDefaults({kFirst}); // kSecond, kSystem, kFirst: then comes the edit in there
+    dialog.Run(host.window());
+}
+
+TEST_F(ButtonDialog, ARunInAContainerIsOfItsItems) {
+    ScriptedDialog dialog({
+        {kOk, "BUTTON", kTab},
+        kContainer,
+        {kFirst, VORN_BUTTON_CLASS, kTab, 0, kBox},
+        {kSystem, "BUTTON", kTab, 0, kBox},
+        {kInBox, "EDIT", kTab, 0, kBox},
+        {kSecond, VORN_BUTTON_CLASS, kTab, 0, kBox},
+        {kNote, "EDIT", kTab},
+    });
+    Focus(dialog, kFirst);
+    dialog.ExpectDefaults({kFirst});
+    dialog.Click(kNote);
+    dialog.ExpectFocus(kNote);
+    dialog.ExpectDefaults({kSecond}); // kFirst, then round to kSecond: not kOk outside
+    dialog.Run(host.window());
+}
+
+TEST_F(ButtonDialog, KeysOfAButtonInAContainerLeaveIt) {
+    ScriptedDialog dialog({
+        {kEdit, "EDIT", kTab},
+        kContainer,
+        {kFirst, VORN_BUTTON_CLASS, kTab, 0, kBox},
+        {kSecond, VORN_BUTTON_CLASS, kTab, 0, kBox},
+        {kNote, "EDIT", kTab},
+    });
+    for (const int item : {kEdit, kFirst, kSecond, kNote, kEdit}) {
+        dialog.ExpectFocus(item);
+        dialog.PressKey(VK_TAB);
+    }
+    dialog.ExpectFocus(kFirst);
+    dialog.PressShifted(VK_TAB);
+    dialog.ExpectFocus(kEdit);
+    Focus(dialog, kSecond);
+    dialog.PressKey(VK_RIGHT);
+    dialog.ExpectFocus(kNote);
+    Focus(dialog, kFirst);
+    dialog.PressKey(VK_LEFT);
+    dialog.ExpectFocus(kEdit);
     dialog.Run(host.window());
 }
 

@@ -1,7 +1,9 @@
 #include "tests/windows/support/dialog.h"
 
+#include <algorithm>
 #include <cstring>
 #include <gtest/gtest.h>
+#include <iterator>
 
 namespace vorn::test {
 namespace {
@@ -32,7 +34,10 @@ void SendButton(DWORD flags) {
 // A dialog template in memory: 16-bit words, items on 32-bit boundaries.
 class Template {
 public:
-    explicit Template(const std::vector<DialogItem>& items) {
+    explicit Template(const std::vector<DialogItem>& all) {
+        std::vector<DialogItem> items; // the dialog's own
+        std::copy_if(all.begin(), all.end(), std::back_inserter(items),
+                     [](const DialogItem& item) { return item.container == 0; });
         const auto height = static_cast<short>((static_cast<short>(items.size()) + 1) * 16);
         AppendLong(DS_MODALFRAME | WS_POPUP | WS_VISIBLE);
         AppendLong(0); // no extended style
@@ -60,7 +65,7 @@ private:
             words_.push_back(0);
         }
         AppendLong(item.style | WS_CHILD | WS_VISIBLE);
-        AppendLong(0);
+        AppendLong(item.extendedStyle);
         AppendPlace(4, y, kItemWidth, kItemHeight);
         words_.push_back(static_cast<WORD>(item.id));
         for (const char* letter = item.className; *letter != '\0'; ++letter) {
@@ -75,6 +80,30 @@ private:
 };
 
 } // namespace
+
+HWND ScriptedDialog::Item(HWND dialog, int id) const {
+    for (const DialogItem& item : items_) {
+        if (item.id == id && item.container != 0) {
+            return GetDlgItem(GetDlgItem(dialog, item.container), id);
+        }
+    }
+    return GetDlgItem(dialog, id);
+}
+
+// Side by side in their containers.
+void ScriptedDialog::FillContainers(HWND dialog) const {
+    int left = 0;
+    for (const DialogItem& item : items_) {
+        left = item.container == 0 ? 0 : left;
+        if (item.container != 0) {
+            CreateWindowExA(item.extendedStyle, item.className, "",
+                            item.style | WS_CHILD | WS_VISIBLE, left, 0, 20, 20,
+                            GetDlgItem(dialog, item.container), reinterpret_cast<HMENU>(item.id),
+                            GetModuleHandleA(nullptr), nullptr);
+            left += 20;
+        }
+    }
+}
 
 void ScriptedDialog::Do(std::function<void(HWND dialog)> act) {
     steps_.push_back([act = std::move(act)](HWND dialog, bool) {
@@ -100,9 +129,9 @@ void ScriptedDialog::PressShifted(WORD key) {
 }
 
 void ScriptedDialog::Click(int item) {
-    Do([item](HWND dialog) {
+    Do([this, item](HWND dialog) {
         RECT rect{};
-        GetWindowRect(GetDlgItem(dialog, item), &rect);
+        GetWindowRect(Item(dialog, item), &rect);
         SetCursorPos((rect.left + rect.right) / 2, (rect.top + rect.bottom) / 2);
         SendButton(MOUSEEVENTF_LEFTDOWN);
         SendButton(MOUSEEVENTF_LEFTUP);
@@ -139,8 +168,7 @@ void ScriptedDialog::ExpectCommands(std::vector<int> pairs) {
 std::vector<int> ScriptedDialog::Defaults(HWND dialog) const {
     std::vector<int> defaults;
     for (const DialogItem& item : items_) {
-        HWND window = GetDlgItem(dialog, item.id);
-        const LRESULT code = SendMessageA(window, WM_GETDLGCODE, 0, 0);
+        const LRESULT code = SendMessageA(Item(dialog, item.id), WM_GETDLGCODE, 0, 0);
         if ((code & DLGC_DEFPUSHBUTTON) != 0) {
             defaults.push_back(item.id);
         }
@@ -170,6 +198,7 @@ INT_PTR CALLBACK ScriptedDialog::Procedure(HWND dialog, UINT message, WPARAM wPa
     switch (message) {
     case WM_INITDIALOG:
         SetWindowLongPtrA(dialog, DWLP_USER, lParam);
+        reinterpret_cast<ScriptedDialog*>(lParam)->FillContainers(dialog);
         SetTimer(dialog, kStepTimer, kStepMilliseconds, nullptr);
         return TRUE;
     case WM_TIMER:

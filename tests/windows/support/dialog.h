@@ -12,12 +12,18 @@ struct DialogItem {
     int id;
     const char* className;
     DWORD style; // beside those of a visible child
+    DWORD extendedStyle = 0;
+    int container = 0; // the item that it is a child of, which stands before it; 0: the dialog
 };
 
-// Items stand one below the other in their order, which is the tab order too.
+// Items stand one below the other in their order, which is the tab order too where a container's
+// items follow it.
 class ScriptedDialog {
 public:
     explicit ScriptedDialog(std::vector<DialogItem> items) : items_(std::move(items)) {}
+
+    // The window of an item, in a container or not.
+    HWND Item(HWND dialog, int id) const;
 
     // A step of the script.
     void Do(std::function<void(HWND dialog)> act);
@@ -48,6 +54,7 @@ private:
 
     static INT_PTR CALLBACK Procedure(HWND dialog, UINT message, WPARAM wParam, LPARAM lParam);
     void GoOn(HWND dialog);
+    void FillContainers(HWND dialog) const;
     std::vector<int> Defaults(HWND dialog) const;
 
     std::vector<DialogItem> items_;
