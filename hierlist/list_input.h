@@ -8,16 +8,16 @@
 
 #include "core/geometry.h"
 #include "core/steps.h"
+#include "hierlist/list_options.h"
 #include "hierlist/selection.h"
 
 #include <cstdint>
 
 namespace vorn::hierlist {
 
-// Window style bits.
+// Window style bits, beside those of the outline and of its looks.
 constexpr std::uint32_t kStyleNotify = 0x1;
 constexpr std::uint32_t kStyleMultipleSel = 0x8;
-constexpr std::uint32_t kStyleMulticolumn = 0x200;
 constexpr std::uint32_t kStyleWantKeyboardInput = 0x400;
 constexpr std::uint32_t kStyleExtendedSel = 0x800;
 
@@ -70,10 +70,10 @@ enum class ActionKind : std::uint8_t {
     ReleaseCapture, //
     StartTimer,     // `first`, with the period autoScrollInterval
     KillTimer,      // `first`
-    PageUp,         // scroll by a page, then take the step Paged
-    PageDown,       //
-    FocusNext,      // tab item of the parent
-    FocusPrevious,  //
+    PageUp,         // scroll by a page, then take the step Paged with the modifiers `first`
+    PageDown,
+    FocusNext,     // tab item of the parent
+    FocusPrevious, //
 };
 
 struct Action {

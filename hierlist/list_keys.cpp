@@ -6,19 +6,19 @@ namespace vorn::hierlist {
 namespace {
 
 bool HasColumnKeys(const Outline& outline) {
-    return Has(outline, kStyleMulticolumn) && !Has(outline, kStyleOwnerDrawVariable);
+    return Has(outline, kStyleMultiColumn) && !Has(outline, kStyleOwnerDrawVariable);
 }
 
 // Page Up and Page Down: scrolls first when there is more than fits.
 void Page(Actions& actions, Outline& outline, Input& input, const View& view, std::uint32_t key,
           std::uint32_t modifiers) {
-    if (Has(outline, kStyleMulticolumn)) {
+    if (Has(outline, kStyleMultiColumn)) {
         return;
     }
     const bool down = key == kKeyPageDown;
     const std::uint32_t rows = RowCount(outline);
     if (rows > view.rowsPerColumn) {
-        Append(actions, {down ? ActionKind::PageDown : ActionKind::PageUp});
+        Append(actions, {down ? ActionKind::PageDown : ActionKind::PageUp, modifiers});
     } else {
         GoTo(actions, outline, input, down ? rows - 1 : 0, modifiers);
     }

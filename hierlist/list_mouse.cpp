@@ -5,10 +5,6 @@
 namespace vorn::hierlist {
 namespace {
 
-// The slot of the open/close box, in pixels from where its level begins.
-constexpr std::int32_t kBoxLeft = 3;
-constexpr std::int32_t kBoxRight = 14;
-
 void ExtendDragTo(Actions& actions, Outline& outline, Input& input, std::uint32_t row) {
     Selection& selection = input.selection;
     const bool hasAnchor = RowOf(outline, selection.anchor) != kNoRow;
@@ -44,19 +40,14 @@ Actions DragTo(Outline& outline, Input& input, std::uint32_t row) {
 }
 
 bool IsAbove(const Outline& outline, Point point, const Rect& client) {
-    return point.y < client.top || (Has(outline, kStyleMulticolumn) && point.x < client.left);
+    return point.y < client.top || (Has(outline, kStyleMultiColumn) && point.x < client.left);
 }
 
 bool IsBelow(const Outline& outline, Point point, const Rect& client) {
-    return point.y >= client.bottom || (Has(outline, kStyleMulticolumn) && point.x >= client.right);
+    return point.y >= client.bottom || (Has(outline, kStyleMultiColumn) && point.x >= client.right);
 }
 
 } // namespace
-
-bool IsOnBox(std::int32_t x, std::int32_t level, std::uint32_t indent) {
-    const std::int64_t inLevel = x - std::int64_t{level} * indent;
-    return inLevel >= kBoxLeft && inLevel <= kBoxRight;
-}
 
 Actions Press(Outline& outline, Input& input, const PressEvent& event) {
     Actions actions;
@@ -81,7 +72,7 @@ Actions Press(Outline& outline, Input& input, const PressEvent& event) {
     if (event.isDouble) {
         Append(actions, {ActionKind::Toggle, 0, input.presses});
         AppendNotify(actions, outline, kDoubleClicked, input.presses);
-    } else if (event.hasBoxes && IsOnBox(event.x, item->level, event.indent)) {
+    } else if (event.isOnBox) {
         Append(actions, {ActionKind::Toggle, 0, input.presses});
     }
     return actions;

@@ -8,15 +8,10 @@ namespace vorn::hierlist {
 struct PressEvent {
     Point point{};              // in client coordinates
     std::uint32_t row = kNoRow; // that the point is on
-    std::int32_t x = 0;         // pixels from the row's left edge, scrolled or not
     std::uint32_t modifiers = 0;
     bool isDouble = false;
-    bool hasBoxes = false;    // whether open/close boxes are shown
-    std::uint32_t indent = 0; // pixels a level
+    bool isOnBox = false; // whether the point is on the row's open/close box
 };
-
-// Whether a point, in pixels from a row's left edge, is in the slot of an item's open/close box.
-bool IsOnBox(std::int32_t x, std::int32_t level, std::uint32_t indent);
 
 // The left button goes down; the list has taken the focus before. The row is selected, and its item
 // opened or closed by a double click or by a click on its box.

@@ -49,6 +49,12 @@ VORNAPI HOLBITEM WINAPI olbAddChildStringEx(HWND window, HOLBITEM parent, LPCSTR
 VORNAPI void WINAPI olbOpenItem(HWND window, LONG row);
 VORNAPI void WINAPI olbCloseItem(HWND window, LONG row);
 
+/*
+ * The procedure that the list gives its timers: 101, which carries a selection on while the mouse is
+ * held outside the list, and 100, which starts anew at each tick. Hosts have no need to call it.
+ */
+VORNAPI void CALLBACK lbTimerProc(HWND window, UINT message, UINT_PTR timer, DWORD time);
+
 #ifdef __cplusplus
 }
 #endif

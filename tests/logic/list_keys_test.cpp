@@ -191,7 +191,7 @@ TEST(ListPages, MoveTheCaretAloneInMultipleSelection) {
 }
 
 TEST(ListPages, DoNothingInColumns) {
-    Letters list(kStyleMulticolumn);
+    Letters list(kStyleMultiColumn);
     list.Click(3);
     EXPECT_EQ(list.Key(kKeyPageUp), "");
     EXPECT_EQ(list.Key(kKeyPageDown), "");
@@ -203,7 +203,7 @@ TEST(ListPages, DoNothingInColumns) {
 // ---- Columns: a to c, d to f, g and h ----
 
 TEST(ListColumns, LeftAndRightGoByAColumn) {
-    Letters list(kStyleMulticolumn);
+    Letters list(kStyleMultiColumn);
     list.Click(1);
     EXPECT_EQ(list.Key(kKeyLeft), "") << "before row 0";
     list.Key(kKeyRight);
@@ -219,7 +219,7 @@ TEST(ListColumns, LeftAndRightGoByAColumn) {
 }
 
 TEST(ListColumns, RightGoesToTheLastRowWhereTheColumnIsShort) {
-    Letters list(kStyleMulticolumn);
+    Letters list(kStyleMultiColumn);
     list.Click(5);
     list.Key(kKeyRight); // f; there is no row 8
     EXPECT_EQ(list.Selected(), "h");
@@ -238,7 +238,7 @@ TEST(ListColumns, RightGoesToTheLastRowWhereTheColumnIsShort) {
 
 TEST(ListColumns, DoNothingOtherwise) {
     for (const std::uint32_t style :
-         {kSingle, kStyleMulticolumn | kStyleOwnerDrawVariable | kStyleHasStrings}) {
+         {kSingle, kStyleMultiColumn | kStyleOwnerDrawVariable | kStyleHasStrings}) {
         Letters list(style);
         list.Click(4);
         EXPECT_EQ(list.Key(kKeyLeft), "");
@@ -248,7 +248,7 @@ TEST(ListColumns, DoNothingOtherwise) {
 }
 
 TEST(ListColumns, NoRowsPerColumnCountAsOne) {
-    Letters list(kStyleMulticolumn);
+    Letters list(kStyleMultiColumn);
     list.view.rowsPerColumn = 0;
     list.Click(4);
     list.Key(kKeyLeft);
@@ -258,7 +258,7 @@ TEST(ListColumns, NoRowsPerColumnCountAsOne) {
 }
 
 TEST(ListColumns, ShiftExtends) {
-    Letters list(kStyleMulticolumn | kStyleExtendedSel);
+    Letters list(kStyleMultiColumn | kStyleExtendedSel);
     list.Click(0);
     list.Click(0, kShift);
     list.Key(kKeyRight, kShift);
@@ -310,7 +310,7 @@ TEST(ListOpenAll, WithoutACaretItIsPutOnTheTopRow) {
 
 TEST(ListKeys, EmptyListDoesNothing) {
     for (const std::uint32_t style :
-         {kSingle, kStyleMultipleSel, kStyleExtendedSel, kStyleMulticolumn}) {
+         {kSingle, kStyleMultipleSel, kStyleExtendedSel, kStyleMultiColumn}) {
         ListHost list(style);
         for (std::uint32_t key = kKeySpace; key <= kKeyPlus; ++key) {
             for (const std::uint32_t modifiers : {0u, kShift, kControl, kShift | kControl}) {

@@ -154,68 +154,36 @@ TEST(ListDoubleClick, AnotherPressMeanwhileTakesItsPlace) {
 
 // ---- Open/close boxes ----
 
-TEST(ListBox, SlotIsFrom3To14PixelsIntoTheLevel) {
-    for (const auto& [x, isOn] : {std::pair{2, false}, {3, true}, {14, true}, {15, false}}) {
-        EXPECT_EQ(IsOnBox(x, 0, 20), isOn) << x;
-        EXPECT_EQ(IsOnBox(x + 20, 1, 20), isOn) << x;
-        EXPECT_EQ(IsOnBox(x + 51, 3, 17), isOn) << x;
-        EXPECT_EQ(IsOnBox(x, 5, 0), isOn) << x;
-    }
-    EXPECT_FALSE(IsOnBox(3, 1, 20));
-    EXPECT_FALSE(IsOnBox(-3, 0, 20));
-    EXPECT_FALSE(IsOnBox(10, 32767, 0xFFFFFFFF)) << "far to the right";
-}
-
 TEST(ListBox, ClickTogglesAfterSelecting) {
     Nested list;
-    EXPECT_EQ(list.PressX(1, 23), "capture, show 1, paint 1, update, notify 1, start 101, toggle");
+    EXPECT_EQ(list.PressBox(1), "capture, show 1, paint 1, update, notify 1, start 101, toggle");
     EXPECT_EQ(QueryOpen(list.a), 1);
     EXPECT_EQ(list.Selected(), "a");
-    list.PressX(1, 34);
+    list.PressBox(1);
     EXPECT_EQ(QueryOpen(list.a), 0);
 }
 
 TEST(ListBox, ClickBesideItOnlySelects) {
     Nested list;
-    for (const std::int32_t x : {10, 22, 35}) {
-        list.PressX(1, x);
-        EXPECT_EQ(QueryOpen(list.a), 0) << x;
-    }
-    EXPECT_EQ(list.Selected(), "a");
+    EXPECT_EQ(list.Press(1), "capture, show 1, paint 1, update, notify 1, start 101");
+    EXPECT_EQ(QueryOpen(list.a), 0);
 }
 
 TEST(ListBox, LockedItemIsSelectedButNotOpened) {
     Nested list;
     SetLocked(list.a, true);
-    list.PressX(1, 25);
+    list.PressBox(1);
     EXPECT_EQ(QueryOpen(list.a), 0);
     EXPECT_EQ(list.Selected(), "a");
     SetLocked(list.p, true);
-    list.PressX(0, 5);
+    list.PressBox(0);
     EXPECT_EQ(QueryOpen(list.p), 1);
-}
-
-TEST(ListBox, WithoutBoxesThereIsNone) {
-    Nested list;
-    PressEvent event;
-    event.row = 1;
-    event.x = 25;
-    event.indent = 20;
-    EXPECT_EQ(list.Do(Press(list.outline, list.input, event)),
-              "capture, show 1, paint 1, update, notify 1, start 101");
-    EXPECT_EQ(QueryOpen(list.a), 0);
 }
 
 TEST(ListBox, DoubleClickOnItTogglesOnce) {
     Nested list;
-    list.PressX(1, 25);
-    PressEvent event;
-    event.row = 1;
-    event.x = 25;
-    event.indent = 20;
-    event.hasBoxes = true;
-    event.isDouble = true;
-    EXPECT_EQ(list.Do(Press(list.outline, list.input, event)),
+    list.PressBox(1);
+    EXPECT_EQ(list.PressBox(1, true),
               "capture, show 1, paint 1, update, notify 1, start 101, toggle, notify 2");
     EXPECT_EQ(QueryOpen(list.a), 0) << "opened by the click, closed by the double click";
 }
@@ -365,7 +333,7 @@ TEST(ListTimer, SidesCountInColumnsAlone) {
     plain.Press(3);
     EXPECT_EQ(plain.Tick({-1, 50}), "");
     EXPECT_EQ(plain.Tick({100, 50}), "");
-    Letters columns(kStyleMulticolumn);
+    Letters columns(kStyleMultiColumn);
     columns.Press(3);
     EXPECT_EQ(columns.Tick({99, 50}), "");
     columns.Tick({100, 50});

@@ -77,12 +77,10 @@ public:
         event.isDouble = true;
         return Do(hierlist::Press(outline, input, event));
     }
-    // A press at an x, with boxes shown and 20 pixels a level.
-    std::string PressX(std::uint32_t row, std::int32_t x) {
+    std::string PressBox(std::uint32_t row, bool isDouble = false) {
         PressEvent event = PressAt(row, 0);
-        event.hasBoxes = true;
-        event.indent = 20;
-        event.x = x;
+        event.isOnBox = true;
+        event.isDouble = isDouble;
         return Do(hierlist::Press(outline, input, event));
     }
     std::string Drag(std::uint32_t row) {
