@@ -7,13 +7,14 @@ extern const Page kComboBoxPage;
 extern const Page kCalendarPage;
 extern const Page kDialPage;
 extern const Page kFontSelectPage;
+extern const Page kHierListPage;
 extern const Page kPercentBarPage;
 extern const Page kUdlrPage;
 
 const std::vector<const Page*>& Pages() {
-    static const std::vector<const Page*> pages = {&kButtonPage, &kCalendarPage,   &kComboBoxPage,
-                                                   &kDialPage,   &kFontSelectPage, &kPercentBarPage,
-                                                   &kUdlrPage};
+    static const std::vector<const Page*> pages = {
+        &kButtonPage,     &kCalendarPage, &kComboBoxPage,   &kDialPage,
+        &kFontSelectPage, &kHierListPage, &kPercentBarPage, &kUdlrPage};
     return pages;
 }
 

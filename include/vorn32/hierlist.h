@@ -27,6 +27,19 @@
 typedef struct OLBITEM_* HOLBITEM;
 #define OLB_NOITEM ((HOLBITEM)(LONG_PTR)-1)
 
+/* As a picture index: a folder, closed or open as the item is, ahead of all others when sorted. */
+#define OLB_SORTFIRST (-32768)
+
+/* The parts of the list that olbSetColor colours. */
+#define OLBC_LIGHTEDGE 0
+#define OLBC_DARKEDGE 1
+#define OLBC_BACKGROUND 2
+#define OLBC_TEXT 4
+#define OLBC_FACE 8
+#define OLBC_LINES 16
+#define OLBC_LOCKEDTEXT 32
+#define OLBC_SELECTEDTEXT 64
+
 #ifdef __cplusplus
 extern "C" {
 #endif
@@ -48,6 +61,42 @@ VORNAPI HOLBITEM WINAPI olbAddChildStringEx(HWND window, HOLBITEM parent, LPCSTR
  */
 VORNAPI void WINAPI olbOpenItem(HWND window, LONG row);
 VORNAPI void WINAPI olbCloseItem(HWND window, LONG row);
+
+/*
+ * Show or hide parts of every row: the tree's dotted lines, the open/close boxes in front of items,
+ * and the items' pictures (shown from the start); and have the highlight reach to the right edge.
+ * The result is what was before, 0 or 1.
+ */
+VORNAPI LONG WINAPI olbShowLines(HWND window, BOOL on);
+VORNAPI LONG WINAPI olbEnableMicroBitmaps(HWND window, BOOL on);
+VORNAPI LONG WINAPI olbEnableBitmaps(HWND window, BOOL on);
+VORNAPI LONG WINAPI olbSetFullSelectRect(HWND window, BOOL on);
+
+/* The pixels that each level is indented by, 20 at first. Setting results in what was before. */
+VORNAPI LONG WINAPI olbSetIndent(HWND window, WORD pixels);
+VORNAPI LONG WINAPI olbGetIndent(HWND window);
+
+/*
+ * Sets which picture an item shows, or for null or OLB_NOITEM those without one of their own: the
+ * how many-th of its strip. OLB_SORTFIRST shows a folder and sorts ahead of all others. Results in
+ * what was before.
+ */
+VORNAPI LONG WINAPI olbSetBitmapIndexEx(HWND window, HOLBITEM item, LONG index);
+
+/*
+ * Sets the colour of a part (OLBC_...); an unknown one changes nothing. Repaints if `redraw` is
+ * nonzero and the style lacks LBS_NOREDRAW. Results in what UpdateWindow answers after a repaint,
+ * else in the stored colour code, or in the part when it is unknown; 0 for no outline list.
+ */
+VORNAPI DWORD WINAPI olbSetColor(HWND window, int part, COLORREF colorCode, BOOL redraw);
+
+/*
+ * The border, VORN_BORDER_NONE to VORN_BORDER_SUNKEN. Setting gives the window the size that keeps
+ * its client area, counting the scroll bars that the list was created with, shown or not; it
+ * results in 1, 0 for no outline list.
+ */
+VORNAPI BOOL WINAPI olbSetBorderStyle(HWND window, DWORD border);
+VORNAPI LONG WINAPI olbGetBorderStyle(HWND window);
 
 /*
  * The procedure that the list gives its timers: 101, which carries a selection on while the mouse is

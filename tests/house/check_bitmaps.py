@@ -9,9 +9,9 @@ from tree import finish
 
 RT_BITMAP = 2
 SUBFOLDER = 0x80000000
-BITMAPS = {222: ("button20", CELLS["button20"]), 223: ("button16", CELLS["button16"]),
-           228: ("hostapp", CELLS["hostapp"]),
-           **{int(cell[:3]): (name, [cell]) for name in ("pad", "fontmark")
+BITMAPS = {217: ("outline", CELLS["outline"]), 222: ("button20", CELLS["button20"]),
+           223: ("button16", CELLS["button16"]), 228: ("hostapp", CELLS["hostapp"]),
+           **{int(cell[:3]): (name, [cell]) for name in ("pad", "fontmark", "treebox")
               for cell in CELLS[name]}}
 
 image = pathlib.Path(sys.argv[1]).read_bytes()
