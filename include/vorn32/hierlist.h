@@ -99,8 +99,8 @@ VORNAPI BOOL WINAPI olbSetBorderStyle(HWND window, DWORD border);
 VORNAPI LONG WINAPI olbGetBorderStyle(HWND window);
 
 /*
- * The procedure that the list gives its timers: 101, which carries a selection on while the mouse is
- * held outside the list, and 100, which starts anew at each tick. Hosts have no need to call it.
+ * The procedure that the list gives its timers: 101, which carries a selection on while the mouse
+ * is held outside the list, and 100, which starts anew at each tick. Hosts have no need to call it.
  */
 VORNAPI void CALLBACK lbTimerProc(HWND window, UINT message, UINT_PTR timer, DWORD time);
 
