@@ -88,6 +88,38 @@ void AskToDraw(HWND window, HDC context, const PlacedRow& placed) {
                  reinterpret_cast<LPARAM>(&question));
 }
 
+// Has the parent draw the rows of an area.
+void AskForRows(HWND window, HDC context, const Layout& layout, const RECT& area) {
+    const Rect part = FromPlatform(area);
+    PlacedRow placed = FirstRowIn(layout, part);
+    while (placed.item != nullptr && !IsBeyond(layout, placed, part)) {
+        if (Meet(placed.rect, area)) {
+            AskToDraw(window, context, placed);
+            // The layout is gone with the record.
+            if (RecordOf<Record>(window) == nullptr) {
+                return;
+            }
+        }
+        placed = NextRow(layout, placed);
+    }
+}
+
+// Draws the rows of an area. Runs no host code.
+void PaintOwnRows(HDC context, Record& record, const Layout& layout, const Ground& ground,
+                  const RECT& area) {
+    const PictureSource pictures(context, record, ground.color);
+    const RowTools tools = {context, record, ground, pictures.get(), MakeLinePen(record)};
+    const Rect part = FromPlatform(area);
+    for (PlacedRow placed = FirstRowIn(layout, part);
+         placed.item != nullptr && !IsBeyond(layout, placed, part);
+         placed = NextRow(layout, placed)) {
+        if (Meet(placed.rect, area)) {
+            PaintRow(tools, layout, placed);
+        }
+    }
+    DeleteObject(tools.lines);
+}
+
 } // namespace
 
 void PaintFocus(HDC context, const Rect& rect) {
@@ -109,27 +141,14 @@ void PaintRows(HWND window, const OffscreenPaint& offscreen) {
     SelectObject(context, record->font);
     SetBkMode(context, TRANSPARENT);
 
-    const bool ownerDrawn = (StyleOf(window) & kStyleOwnerDraw) != 0;
     const Layout layout = LayoutOf(*record);
-    const Rect area = FromPlatform(offscreen.area());
-    PlacedRow placed = FirstRowIn(layout, area);
-    if (placed.item == nullptr && RowCount(layout) == 0 && record->state.selection.hasFocus) {
+    if (RowCount(layout) == 0 && record->state.selection.hasFocus) {
         PaintFocus(context, {0, 0, layout.client.width, layout.rowHeight});
     }
-    while (placed.item != nullptr && !IsBeyond(layout, placed, area)) {
-        if (Meet(placed.rect, offscreen.area())) {
-            if (ownerDrawn) {
-                AskToDraw(window, context, placed);
-            } else {
-                PaintRow(context, *record, layout, placed, ground);
-            }
-            // The parent may have done anything.
-            record = RecordOf<Record>(window);
-            if (record == nullptr) {
-                return;
-            }
-        }
-        placed = NextRow(layout, placed);
+    if ((StyleOf(window) & kStyleOwnerDraw) != 0) {
+        AskForRows(window, context, layout, offscreen.area());
+    } else {
+        PaintOwnRows(context, *record, layout, ground, offscreen.area());
     }
 }
 

@@ -16,21 +16,31 @@ struct Ground {
 // Paints what needs repainting. Runs host code.
 void PaintRows(HWND window, const OffscreenPaint& offscreen);
 
-// Paints a row of the control's own drawing on the ground that is already there. Runs no host code.
-void PaintRow(HDC context, const Record& record, const Layout& layout, const PlacedRow& placed,
-              const Ground& ground);
+// The pen of the tree's lines: every other pixel from the first on, the rest left as it is. The
+// caller's to delete.
+HPEN MakeLinePen(const Record& record);
+
+// What a row is painted with: a ground that is already there, and what there is of the rest.
+struct RowTools {
+    HDC context;
+    const Record& record;
+    Ground ground;
+    HDC pictures = nullptr; // the prepared ones
+    HPEN lines = nullptr;
+};
+
+// Paints a row of the control's own drawing. Runs no host code.
+void PaintRow(const RowTools& tools, const Layout& layout, const PlacedRow& placed);
 
 // The focus rectangle, which painted twice is gone.
 void PaintFocus(HDC context, const Rect& rect);
 
 // Draws an item's picture from `left` on, in the middle of the rectangle's height. Returns the x
-// behind it, `left` itself when there is none to draw.
-int PaintPicture(HDC context, const Record& record, const OlbItem* item, const Rect& rect, int left,
-                 COLORREF background);
+// behind it.
+int PaintPicture(const RowTools& tools, const OlbItem* item, const Rect& rect, int left);
 
-// Draws the tree's lines, and the item's box if there are boxes, in the item's row.
-void PaintLines(HDC context, const Record& record, const OlbItem* item, const Rect& row);
-void PaintBox(HDC context, const Record& record, const OlbItem* item, const Rect& row,
-              COLORREF background);
+// Draws the tree's lines, and the item's box if it has children, in the item's row.
+void PaintLines(const RowTools& tools, const OlbItem* item, const Rect& row);
+void PaintBox(const RowTools& tools, const OlbItem* item, const Rect& row);
 
 } // namespace vorn::hierlist

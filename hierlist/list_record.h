@@ -8,6 +8,7 @@
 #include "hierlist/list_options.h"
 #include "hierlist/outline.h"
 #include "hierlist/picture_choice.h"
+#include "hierlist/prepared_pictures_win.h"
 #include "hierlist/scroll_range.h"
 #include "hierlist/tab_stops.h"
 
@@ -23,6 +24,7 @@ struct Record {
     ListOptions options;
     Strips strips;                  // those of levels and of the host are the control's to free
     std::array<HBITMAP, 2> boxes{}; // of a closed and of an open item
+    PreparedPictures prepared;
     TabStops tabs;
     HFONT font = nullptr; // the host's, or the stock SYSTEM_FONT
     std::int32_t fontHeight = 0;

@@ -12,35 +12,20 @@
 namespace vorn::hierlist {
 namespace {
 
-// A pen that paints every other pixel, from the first on, and leaves the rest as it is.
-class DottedPen {
-public:
-    DottedPen(HDC context, COLORREF color) : context_(context) {
-        const LOGBRUSH brush = {BS_SOLID, color, 0};
-        pen_ = ExtCreatePen(PS_COSMETIC | PS_ALTERNATE, 1, &brush, 0, nullptr);
-        before_ = SelectObject(context, pen_);
+void DrawLine(HDC context, const DottedLine& whole) {
+    const DottedLine line = FromFirstDot(whole);
+    if (line.length > 0) {
+        MoveToEx(context, line.from.x, line.from.y, nullptr);
+        LineTo(context, line.from.x + (line.vertical ? 0 : line.length),
+               line.from.y + (line.vertical ? line.length : 0));
     }
-    ~DottedPen() {
-        SelectObject(context_, before_);
-        DeleteObject(pen_);
-    }
-    DottedPen(const DottedPen&) = delete;
-    DottedPen& operator=(const DottedPen&) = delete;
+}
 
-    void Draw(const DottedLine& whole) const {
-        const DottedLine line = FromFirstDot(whole);
-        if (line.length > 0) {
-            MoveToEx(context_, line.from.x, line.from.y, nullptr);
-            LineTo(context_, line.from.x + (line.vertical ? 0 : line.length),
-                   line.from.y + (line.vertical ? line.length : 0));
-        }
-    }
-
-private:
-    HDC context_;
-    HPEN pen_;
-    HGDIOBJ before_;
-};
+// Copies a prepared picture.
+void Copy(const RowTools& tools, const Rect& target, Point source) {
+    BitBlt(tools.context, target.left, target.top, Width(target), Height(target), tools.pictures,
+           source.x, source.y, SRCCOPY);
+}
 
 // A piece of a text between tabs, and where it begins behind the text's start.
 struct Piece {
@@ -93,14 +78,20 @@ int TextWidth(HDC context, const Record& record, const char* text) {
     return width;
 }
 
+void WritePiece(HDC context, const char* text, int length, int left, int top) {
+    ExtTextOutA(context, left, top, 0, nullptr, text, static_cast<UINT>(length), nullptr);
+}
+
 void WriteText(HDC context, const Record& record, const char* text, const Rect& row, int left) {
-    const RECT clip = ToPlatform(row);
     const int top = row.top + (Height(row) - record.fontHeight) / 2;
+    if (std::strchr(text, '\t') == nullptr) {
+        WritePiece(context, text, static_cast<int>(std::strlen(text)), left, top);
+        return;
+    }
     Pieces pieces(context, record, text);
     Piece piece;
-    while (pieces.Take(piece) && left + piece.x < clip.right) {
-        ExtTextOutA(context, left + piece.x, top, ETO_CLIPPED, &clip, piece.text,
-                    static_cast<UINT>(piece.length), nullptr);
+    while (pieces.Take(piece) && left + piece.x < row.right) {
+        WritePiece(context, piece.text, piece.length, left + piece.x, top);
     }
 }
 
@@ -126,60 +117,83 @@ void PaintText(HDC context, const Record& record, const PlacedRow& placed) {
 
 } // namespace
 
-int PaintPicture(HDC context, const Record& record, const OlbItem* item, const Rect& rect, int left,
-                 COLORREF background) {
+HPEN MakeLinePen(const Record& record) {
+    const LOGBRUSH brush = {BS_SOLID, ResolveColor(record.options.colors.lines), 0};
+    return HasOption(record.options, kOptionLines)
+               ? ExtCreatePen(PS_COSMETIC | PS_ALTERNATE, 1, &brush, 0, nullptr)
+               : nullptr;
+}
+
+int PaintPicture(const RowTools& tools, const OlbItem* item, const Rect& rect, int left) {
+    const Record& record = tools.record;
     const PictureChoice choice = ChoosePicture(item, record.options, record.strips);
     const Rect target = PictureRect(rect, record.options, left);
-    if (choice.index >= 0) {
-        DrawTransparentBitmap(context, target, static_cast<HBITMAP>(choice.strip),
-                              {choice.index * record.options.picture.width, 0}, background);
+    const Point source = {choice.index * record.options.picture.width, 0};
+    if (choice.index < 0) {
+        return target.right;
+    }
+    const bool isPrepared = tools.pictures != nullptr && choice.strip == record.strips.own &&
+                            source.x < record.prepared.boxesLeft;
+    if (isPrepared) {
+        Copy(tools, target, source);
+    } else {
+        DrawTransparentBitmap(tools.context, target, static_cast<HBITMAP>(choice.strip), source,
+                              tools.ground.color);
     }
     return target.right;
 }
 
-void PaintLines(HDC context, const Record& record, const OlbItem* item, const Rect& row) {
-    const DottedPen pen(context, ResolveColor(record.options.colors.lines));
-    const OwnLines own = LinesOf(item, row, record.options);
-    pen.Draw(own.down);
-    pen.Draw(own.branch);
+void PaintLines(const RowTools& tools, const OlbItem* item, const Rect& row) {
+    const ListOptions& options = tools.record.options;
+    HGDIOBJ before = SelectObject(tools.context, tools.lines);
+    const OwnLines own = LinesOf(item, row, options);
+    DrawLine(tools.context, own.down);
+    DrawLine(tools.context, own.branch);
     for (const OlbItem* parent = PassedParent(item); parent != nullptr;
          parent = PassedParent(parent)) {
-        pen.Draw(PassingLine(parent, row, record.options));
+        DrawLine(tools.context, PassingLine(parent, row, options));
+    }
+    SelectObject(tools.context, before);
+}
+
+void PaintBox(const RowTools& tools, const OlbItem* item, const Rect& row) {
+    if (item->childCount == 0) {
+        return;
+    }
+    const Record& record = tools.record;
+    const std::size_t which = (item->flags & kFlagOpen) != 0 ? 1 : 0;
+    const Rect target = BoxRect(row, record.options, item->level);
+    if (tools.pictures != nullptr) {
+        const auto skipped = static_cast<std::int32_t>(which) * kBoxPicture.width;
+        Copy(tools, target, {record.prepared.boxesLeft + skipped, 0});
+    } else {
+        DrawTransparentBitmap(tools.context, target, record.boxes[which], {}, tools.ground.color);
     }
 }
 
-void PaintBox(HDC context, const Record& record, const OlbItem* item, const Rect& row,
-              COLORREF background) {
-    if (item->childCount != 0) {
-        const bool open = (item->flags & kFlagOpen) != 0;
-        DrawTransparentBitmap(context, BoxRect(row, record.options, item->level),
-                              record.boxes[open ? 1 : 0], {}, background);
-    }
-}
-
-void PaintRow(HDC context, const Record& record, const Layout& layout, const PlacedRow& placed,
-              const Ground& ground) {
-    const ListOptions& options = record.options;
+void PaintRow(const RowTools& tools, const Layout& layout, const PlacedRow& placed) {
+    const ListOptions& options = tools.record.options;
     const Rect& row = placed.rect;
-    const bool mayLeaveRow = options.picture.height > Height(row) ||
-                             kBoxPicture.height > Height(row) || layout.multiColumn;
-    const int saved = mayLeaveRow ? SaveDC(context) : 0;
+    const std::int32_t needed =
+        std::max({options.picture.height, kBoxPicture.height, tools.record.fontHeight});
+    const bool mayLeaveRow = needed > Height(row) || layout.multiColumn;
+    const int saved = mayLeaveRow ? SaveDC(tools.context) : 0;
     if (mayLeaveRow) {
-        IntersectClipRect(context, row.left, row.top, row.right, row.bottom);
+        IntersectClipRect(tools.context, row.left, row.top, row.right, row.bottom);
     }
-    if (HasOption(options, kOptionLines)) {
-        PaintLines(context, record, placed.item, row);
+    if (tools.lines != nullptr) {
+        PaintLines(tools, placed.item, row);
     }
     if (HasOption(options, kOptionBoxes)) {
-        PaintBox(context, record, placed.item, row, ground.color);
+        PaintBox(tools, placed.item, row);
     }
     if (ShowsPictures(options)) {
         const int left = row.left + ContentStart(options, placed.item->level);
-        PaintPicture(context, record, placed.item, row, left, ground.color);
+        PaintPicture(tools, placed.item, row, left);
     }
-    PaintText(context, record, placed);
+    PaintText(tools.context, tools.record, placed);
     if (mayLeaveRow) {
-        RestoreDC(context, saved);
+        RestoreDC(tools.context, saved);
     }
 }
 

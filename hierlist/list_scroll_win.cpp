@@ -40,7 +40,11 @@ void SetBar(HWND window, int bar, const BarRange& range, bool always) {
 // Sets one bar if it is wanted, and takes an unwanted one away.
 void SetBarIf(HWND window, int bar, bool wanted, DWORD styleBit, const BarRange& range,
               bool always) {
-    if (wanted || (StyleOf(window) & styleBit) != 0) {
+    const bool shown = (StyleOf(window) & styleBit) != 0;
+    if (wanted && always && !shown) {
+        ShowScrollBar(window, bar, TRUE); // nothing to scroll alone would not show it
+    }
+    if (wanted || shown) {
         SetBar(window, bar, wanted ? range : BarRange{}, wanted && always);
     }
 }
@@ -118,10 +122,12 @@ bool MayMove(const Record& record, std::int32_t by) {
            (!HasOption(record.options, kOptionLines) || by % 2 == 0);
 }
 
-// Shows that all rows moved, by at most this many pixels if that is less than the client area.
+// Shows that all rows moved by this many pixels. Moving what is on the screen pays when that is
+// most of it.
 void MoveView(HWND window, const Record& record, std::int32_t x, std::int32_t y) {
     const Rect client = ClientRect(window);
-    if (std::abs(x) < client.right && std::abs(y) < client.bottom && MayMove(record, x + y)) {
+    if (std::abs(x) < client.right / 2 && std::abs(y) < client.bottom / 2 &&
+        MayMove(record, x + y)) {
         ScrollWindowEx(window, x, y, nullptr, nullptr, nullptr, nullptr, SW_INVALIDATE);
     } else {
         InvalidateRect(window, nullptr, FALSE);

@@ -23,7 +23,7 @@ void RedrawPart(HWND window, const Rect& part) {
 Layout LayoutFor(Record& record, Size client) {
     Layout layout = MakeLayout(record.outline, record.options, StyleOf(record.window), client);
     layout.columns = &record.columns;
-    layout.topIndex = record.topIndex;
+    layout.topIndex = layout.multiColumn ? 0 : record.topIndex;
     layout.offset = record.offset;
     if (layout.multiColumn && layout.variable && record.columnsHeight != client.height) {
         BuildColumns(record.columns, layout);

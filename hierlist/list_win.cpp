@@ -78,6 +78,7 @@ void OnNcDestroy(HWND window) {
     }
     DeleteObject(record->strips.user);
     DeleteObject(record->strips.own);
+    DeleteObject(record->prepared.bitmap);
     for (HBITMAP box : record->boxes) {
         DeleteObject(box);
     }
@@ -123,15 +124,14 @@ void OnSize(HWND window) {
     if (multiColumn || HasOption(record->options, kOptionFullRow)) {
         InvalidateRect(window, nullptr, FALSE);
     }
-    if (!record->settingBars) {
-        UpdateBars(window);
-    }
+    UpdateBars(window);
 }
 
 void OnStyleChanged(HWND window, WPARAM which) {
     Record* record = RecordOf<Record>(window);
     if (record != nullptr && static_cast<int>(which) == GWL_STYLE) {
         record->outline.style = StyleOf(window);
+        record->barsStale = true;
         ForgetColumns(*record);
     }
 }

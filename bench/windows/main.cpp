@@ -16,5 +16,6 @@ int main() {
     bench::MeasurePercentBar();
     bench::MeasureDial();
     bench::MeasureFontSelect();
+    bench::MeasureHierList();
     return 0;
 }

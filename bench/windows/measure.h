@@ -40,5 +40,6 @@ void MeasureDial();
 void MeasureCalendar();
 void MeasurePercentBar();
 void MeasureFontSelect();
+void MeasureHierList();
 
 } // namespace bench

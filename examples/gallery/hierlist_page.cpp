@@ -68,13 +68,13 @@ void Create(HWND page) {
     olbEnableMicroBitmaps(tree, TRUE);
     FillFolders(tree);
 
-    AddLabel(page, "No pictures, a line border", 320, 10, 130);
+    AddLabel(page, "Text alone", 320, 10, 130);
     HWND plain = Add(page, VORN_HIERLIST_CLASS, "", WS_TABSTOP | WS_VSCROLL | WS_BORDER,
                      {320, 30, 450, 200}, 0);
     olbEnableBitmaps(plain, FALSE);
     FillPlain(plain, 40);
 
-    AddLabel(page, "Colours, a raised frame", 470, 10, 140);
+    AddLabel(page, "Colours", 470, 10, 140);
     HWND colored = Add(page, VORN_HIERLIST_CLASS, "", WS_TABSTOP | WS_VSCROLL | OLBS_RAISED,
                        {470, 30, 600, 200}, 0);
     olbSetColor(colored, OLBC_BACKGROUND, RGB(0, 0, 64), FALSE);
