@@ -1,24 +1,14 @@
 // A list under any sequence of clicks, keys, drags and changes of its items, beside a model.
+#include "tests/support/choices.h"
 #include "tests/support/list_model.h"
 
 #include <gtest/gtest.h>
 #include <iostream>
-#include <random>
 
 namespace vorn::hierlist::test {
 namespace {
 
-class Random {
-public:
-    explicit Random(std::uint32_t seed) : engine(seed) {}
-
-    std::uint32_t Below(std::uint32_t bound) {
-        return static_cast<std::uint32_t>(engine()) % bound;
-    }
-
-private:
-    std::mt19937 engine;
-};
+using vorn::test::Random;
 
 void Play(std::uint32_t seed, std::size_t limit, int operations) {
     std::cout << "seed " << seed << ": " << operations << " operations on " << limit << " items"
