@@ -60,10 +60,12 @@ struct OlbItem {
     std::uint32_t shownChildren = 0; // all when open; when closed, those that closing did not count
     std::uint32_t unfoldedChildren = 0; // children that themselves have shown children
     std::uint32_t selectedChildren = 0;
+    OlbItem* nextSelected = nullptr; // the neighbours in the order of selecting
+    OlbItem* prevSelected = nullptr;
     std::uint32_t sidePlace = 0; // in the side table, from 1 on; 0 when it is not there
     std::uint8_t marks = kMarkInOrder;
 };
-static_assert(sizeof(void*) != 4 || sizeof(OlbItem) == 72);
+static_assert(sizeof(void*) != 4 || sizeof(OlbItem) == 80);
 
 // What operations answer when there is no item to answer; as an argument refused like null.
 inline OlbItem* NoItem() {

@@ -109,17 +109,16 @@ void RedrawPart(void* context, vorn::hierlist::Redraw what, std::uint32_t row) {
     }
 }
 
-void Deselected(void* /*context*/, OlbItem* /*item*/) {}
+void Deselected(void* context, OlbItem* item) {
+    DropDeselected(RecordIn(context).state.selection, item);
+}
 
 void Retired(void* context, OlbItem* item) {
-    Record& record = RecordIn(context);
-    if (record.caret == item) {
-        record.caret = NoItem();
-    }
+    DropItem(RecordIn(context).state, item);
 }
 
 void Cleared(void* context) {
-    RecordIn(context).caret = NoItem();
+    DropAllItems(RecordIn(context).state);
 }
 
 // What a list box keeps of an item beside its text, its place and a value, an item's own record

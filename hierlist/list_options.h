@@ -26,8 +26,6 @@ constexpr std::uint8_t kOptionProportionalBars = 1;
 constexpr std::uint8_t kOptionLines = 4;
 constexpr std::uint8_t kOptionAskBackground = 8;
 constexpr std::uint8_t kOptionFullRow = 16;
-constexpr std::uint8_t kOptionFocus = 32;
-constexpr std::uint8_t kOptionCaptured = 64;
 constexpr std::uint8_t kOptionBoxes = 128;
 
 // Levels from this one on have no pictures of their own.

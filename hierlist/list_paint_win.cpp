@@ -59,11 +59,8 @@ Ground GroundOf(HWND window, HDC context) {
 // A list without a caret has it in the first row that it shows, where the keys then begin.
 void GiveCaret(Record& record) {
     OlbItem* top = IndexToHandle(record.outline, record.topIndex);
-    if (!IsItem(record.caret) && top != nullptr) {
-        record.caret = top;
-        if (HasOption(record.options, kOptionFocus)) {
-            top->flags |= kFlagCaret;
-        }
+    if (record.state.selection.caret == nullptr && top != nullptr) {
+        PutCaret(record.state.selection, top);
     }
 }
 
@@ -145,7 +142,7 @@ void PaintRows(HWND window, const OffscreenPaint& offscreen) {
     SetBkMode(context, TRANSPARENT);
 
     const Layout layout = LayoutOf(*record);
-    if (RowCount(layout) == 0 && HasOption(record->options, kOptionFocus)) {
+    if (RowCount(layout) == 0 && record->state.selection.hasFocus) {
         PaintFocus(context, {0, 0, layout.client.width, layout.rowHeight});
     }
     if ((StyleOf(window) & kStyleOwnerDraw) != 0) {

@@ -4,6 +4,7 @@
 #include "core/paint_win.h"
 #include "core/record_win.h"
 #include "hierlist/column_table.h"
+#include "hierlist/list_input.h"
 #include "hierlist/list_options.h"
 #include "hierlist/outline.h"
 #include "hierlist/picture_choice.h"
@@ -34,7 +35,7 @@ struct Record {
     WheelState wheel;
     WheelState sideWheel;
 
-    OlbItem* caret = NoItem();
+    Input state;
 
     ColumnTable columns;
     std::int32_t columnsHeight = -1; // the client height that the table is for; -1: to be built

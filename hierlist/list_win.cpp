@@ -4,6 +4,7 @@
 #include "hierlist/list_border_win.h"
 #include "hierlist/list_font_win.h"
 #include "hierlist/list_host_win.h"
+#include "hierlist/list_input_win.h"
 #include "hierlist/list_paint_win.h"
 #include "hierlist/list_scroll_win.h"
 #include "hierlist/list_view_win.h"
@@ -197,6 +198,7 @@ extern "C" LRESULT CALLBACK VORNHierListWinFn(HWND window, UINT message, WPARAM 
         OnStyleChanged(window, wParam);
         return 0;
     default:
-        return OnDrawingMessage(window, message, wParam, lParam);
+        return IsInputMessage(message) ? OnInputMessage(window, message, wParam, lParam)
+                                       : OnDrawingMessage(window, message, wParam, lParam);
     }
 }

@@ -108,6 +108,12 @@ VORNAPI LONG WINAPI olbGetBorderStyle(HWND window);
 VORNAPI int WINAPI olbPaintBitmap(HWND window, HDC context, LONG row, const RECT* place);
 VORNAPI BOOL WINAPI olbPaintLines(HWND window, HDC context, LONG row, const RECT* place);
 
+/*
+ * The procedure that the list gives its timers: 101, which carries a selection on while the mouse
+ * is held outside the list, and 100, which starts anew at each tick. Hosts have no need to call it.
+ */
+VORNAPI void CALLBACK lbTimerProc(HWND window, UINT message, UINT_PTR timer, DWORD time);
+
 #ifdef __cplusplus
 }
 #endif

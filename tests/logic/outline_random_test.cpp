@@ -1,24 +1,14 @@
 // An outline in the hands of a careless host, beside a model of lists of lists.
+#include "tests/support/choices.h"
 #include "tests/support/outline_pair.h"
 
 #include <gtest/gtest.h>
 #include <iostream>
-#include <random>
 
 namespace vorn::hierlist::test {
 namespace {
 
-class Random {
-public:
-    explicit Random(std::uint32_t seed) : engine(seed) {}
-
-    std::uint32_t Below(std::uint32_t bound) {
-        return static_cast<std::uint32_t>(engine()) % bound;
-    }
-
-private:
-    std::mt19937 engine;
-};
+using vorn::test::Random;
 
 // Compares everything after each `every`th operation.
 void Play(std::uint32_t seed, std::size_t limit, int operations, int every) {

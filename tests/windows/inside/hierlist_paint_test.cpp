@@ -105,7 +105,7 @@ TEST_F(HierListLook, TheCaretIsFramed) {
 
 TEST_F(HierListLook, AnEmptyListWithTheFocusFramesItsFirstRow) {
     HWND list = Create();
-    In(list)->options.flags |= kOptionFocus;
+    PutFocus(In(list)->state.selection, true);
     RedrawRows(list);
     const Pixels expected = Expected(kOutlineWidth, kOutlineHeight, [&](HDC context) {
         const RECT frame = {0, 0, kOutlineWidth, kRowHeight};
@@ -117,13 +117,13 @@ TEST_F(HierListLook, AnEmptyListWithTheFocusFramesItsFirstRow) {
 
 TEST_F(HierListLook, TheTopRowBecomesTheCaretWhenThereIsNone) {
     HWND list = CreateWith("a");
-    EXPECT_EQ(In(list)->caret, Row(list, 0));
+    EXPECT_EQ(In(list)->state.selection.caret, Row(list, 0));
     EXPECT_EQ(Row(list, 0)->flags & kFlagCaret, 0) << "without the focus it is not marked";
     DeleteItem(In(list)->outline, Row(list, 0));
-    EXPECT_EQ(In(list)->caret, NoItem());
-    In(list)->options.flags |= kOptionFocus;
+    EXPECT_EQ(In(list)->state.selection.caret, nullptr);
+    PutFocus(In(list)->state.selection, true);
     olbAddString(list, "b");
-    EXPECT_EQ(In(list)->caret, Row(list, 0));
+    EXPECT_EQ(In(list)->state.selection.caret, Row(list, 0));
     EXPECT_NE(Row(list, 0)->flags & kFlagCaret, 0);
 }
 
