@@ -247,12 +247,19 @@ TEST_F(DateEditAbuse, BearsTheLongestStrings) {
     dtSetDayLiterals(edit, nullptr);
 }
 
+void CALLBACK CloseDialog(HWND, UINT, UINT_PTR, DWORD) {
+    EndDialog(FindWindowA(nullptr, "Select Date"), IDCANCEL);
+}
+
+// A press on the button opens a dialog, which is closed soon.
 TEST_F(DateEditAbuse, SurvivesRandomMessages) {
+    const UINT_PTR timer = SetTimer(nullptr, 0, 10, CloseDialog);
     vorn::test::SendRandomMessages(
         [this] { return host.Create(VORN_DATEEDIT_CLASS, VDTS_CALENDAR, 0, 0, 120, 24); }, 20070305,
         20000,
         {EM_GETSEL, EM_GETRECT, EM_GETLINE, EM_REPLACESEL, EM_SETRECT, EM_GETTHUMB, 1159, 1160,
          1161, 1167, 1177, 1178, 1184, 1185, 0x0D00, 0x0D01, 0x0D07});
+    KillTimer(nullptr, timer);
 }
 
 TEST_F(DateEditAbuse, AClassOfTheHostsOwnWorksToo) {

@@ -372,26 +372,23 @@ TEST_F(DateEditInput, TheButtonTakesTheFocusAsksAndLooksPressed) {
             pressed = vorn::test::PixelsOf(window);
         }
     };
-    for (const LRESULT answer : {LRESULT{1}, LRESULT{0}}) {
-        SetFocus(host.window());
-        TakeEvents();
-        allowed = answer;
-        vorn::test::SendMouse(edit, WM_LBUTTONDOWN, 110, 10);
-        EXPECT_EQ(TakeEvents(), (Events{"EN_SETFOCUS", "ask"}));
-        vorn::test::SendMouse(edit, WM_LBUTTONUP, 110, 10);
-        EXPECT_EQ(GetFocus(), edit);
-        EXPECT_EQ(GetCapture(), nullptr);
-        EXPECT_EQ(ValueOf(edit), "3/5/2007");
-        const vorn::test::Pixels after = vorn::test::PixelsOf(edit);
-        int changed = 0;
-        for (int y = 0; y < 24; ++y) {
-            for (int x = 120 - 21; x < 120; ++x) {
-                EXPECT_EQ(after.At(x, y), before.At(x, y)) << "it came up again";
-                changed += pressed.At(x, y) != before.At(x, y);
-            }
+    allowed = 0;
+    TakeEvents();
+    vorn::test::SendMouse(edit, WM_LBUTTONDOWN, 110, 10);
+    EXPECT_EQ(TakeEvents(), (Events{"EN_SETFOCUS", "ask"}));
+    vorn::test::SendMouse(edit, WM_LBUTTONUP, 110, 10);
+    EXPECT_EQ(GetFocus(), edit);
+    EXPECT_EQ(GetCapture(), nullptr);
+    EXPECT_EQ(ValueOf(edit), "3/5/2007");
+    const vorn::test::Pixels after = vorn::test::PixelsOf(edit);
+    int changed = 0;
+    for (int y = 0; y < 24; ++y) {
+        for (int x = 120 - 21; x < 120; ++x) {
+            EXPECT_EQ(after.At(x, y), before.At(x, y)) << "it came up again";
+            changed += pressed.At(x, y) != before.At(x, y);
         }
-        EXPECT_GT(changed, 100) << "frame and arrow, at least";
     }
+    EXPECT_GT(changed, 100) << "frame and arrow, at least";
 }
 
 // A field of 44 pixels: the text starts at 4, and the caret takes 2.

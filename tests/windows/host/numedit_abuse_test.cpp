@@ -6,8 +6,8 @@
 
 namespace {
 
+using vorn::test::ChangeEvents;
 using vorn::test::Events;
-using vorn::test::kChange;
 using vorn::test::Message;
 using vorn::test::NumEditHost;
 using vorn::test::PumpMessages;

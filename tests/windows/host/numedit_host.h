@@ -102,7 +102,9 @@ protected:
 };
 
 // What a change by the user tells, between the messages that a key brings.
-inline const Events kChange = {"changed", "EN_UPDATE", "EN_CHANGE"};
+inline Events ChangeEvents() {
+    return {"changed", "EN_UPDATE", "EN_CHANGE"};
+}
 
 inline Events operator+(const Events& first, const Events& second) {
     Events both = first;

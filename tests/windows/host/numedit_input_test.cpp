@@ -3,8 +3,8 @@
 
 namespace {
 
+using vorn::test::ChangeEvents;
 using vorn::test::Events;
-using vorn::test::kChange;
 using vorn::test::NumEditHost;
 using vorn::test::operator+;
 
@@ -22,10 +22,10 @@ protected:
 
     // Both messages of a key that types a character ask; the character's tells of what it did, and
     // 1424 comes once more.
-    static inline const Events kTyped = Events{"ask", "ask"} + kChange + Events{"changed"};
+    static inline const Events kTyped = Events{"ask", "ask"} + ChangeEvents() + Events{"changed"};
     static inline const Events kNotTyped = {"ask", "ask", "changed"};
     // A key without a character.
-    static inline const Events kEdited = Events{"ask"} + kChange + Events{"changed"};
+    static inline const Events kEdited = Events{"ask"} + ChangeEvents() + Events{"changed"};
     static inline const Events kMoved = {"ask", "changed"};
 };
 
@@ -296,10 +296,10 @@ TEST_F(NumEditInput, MessagesCopyCutClearAndPaste) {
     EXPECT_EQ(TakeEvents(), Events{}) << "nothing changes";
     SendMessageA(edit, WM_CUT, 0, 0);
     EXPECT_EQ(TextOf(edit), "145");
-    EXPECT_EQ(TakeEvents(), Events{"ask"} + kChange);
+    EXPECT_EQ(TakeEvents(), Events{"ask"} + ChangeEvents());
     SendMessageA(edit, WM_PASTE, 0, 0);
     EXPECT_EQ(TextOf(edit), "12345");
-    EXPECT_EQ(TakeEvents(), Events{"ask"} + kChange);
+    EXPECT_EQ(TakeEvents(), Events{"ask"} + ChangeEvents());
     SetClipboard("stays");
     SendMessageA(edit, WM_CUT, 0, 0);
     EXPECT_EQ(ClipboardText(), "stays") << "nothing is selected";

@@ -4,8 +4,8 @@
 
 namespace {
 
+using vorn::test::ChangeEvents;
 using vorn::test::Events;
-using vorn::test::kChange;
 using vorn::test::NumEditHost;
 using vorn::test::operator+;
 using vorn::test::PumpFor;
@@ -32,7 +32,7 @@ protected:
         Release(edit, y);
     }
 
-    static inline const Events kStep = Events{"ask"} + kChange;
+    static inline const Events kStep = Events{"ask"} + ChangeEvents();
 };
 
 TEST_F(NumEditMouse, ButtonsStepByOne) {
@@ -99,7 +99,7 @@ TEST_F(NumEditMouse, ATextThatReachesTheLimitIsCut) {
     Put(edit, "99");
     Click(edit, kUp);
     EXPECT_EQ(TextOf(edit), "10");
-    EXPECT_EQ(TakeEvents(), Events{"ask"} + Events{"code 1280"} + kChange);
+    EXPECT_EQ(TakeEvents(), Events{"ask"} + Events{"code 1280"} + ChangeEvents());
 }
 
 TEST_F(NumEditMouse, OnlyTheTextIsPaintedBetweenTheNotifications) {

@@ -7,9 +7,9 @@
 namespace {
 
 using vorn::test::ChangedProfile;
+using vorn::test::ChangeEvents;
 using vorn::test::DestroyedWindow;
 using vorn::test::Events;
-using vorn::test::kChange;
 using vorn::test::NumEditHost;
 using vorn::test::operator+;
 
@@ -271,7 +271,7 @@ TEST_F(NumEdit, ReplacesTheSelectionAsPastedTextDoes) {
     Select(edit, 1, 4);
     SendMessageA(edit, EM_REPLACESEL, 0, reinterpret_cast<LPARAM>("99"));
     EXPECT_EQ(TextOf(edit), "1995");
-    EXPECT_EQ(TakeEvents(), Events{"ask"} + kChange);
+    EXPECT_EQ(TakeEvents(), Events{"ask"} + ChangeEvents());
     SendMessageA(edit, EM_REPLACESEL, 0, reinterpret_cast<LPARAM>("x"));
     EXPECT_EQ(TextOf(edit), "1995");
     Select(edit, 0, -1);

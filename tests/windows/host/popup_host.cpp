@@ -153,12 +153,12 @@ RECT PopupTest::PlaceOf(HWND dialog, int id) {
     return place;
 }
 
-std::string Numbers(const DtDate& date) {
+std::string DateText(const DtDate& date) {
     return std::to_string(date.month) + "/" + std::to_string(date.day) + "/" +
            std::to_string(date.year);
 }
 
-std::string Numbers(const VORNCALENDARDATE& date) {
+std::string DateText(const VORNCALENDARDATE& date) {
     return std::to_string(date.month) + "/" + std::to_string(date.day) + "/" +
            std::to_string(date.year);
 }

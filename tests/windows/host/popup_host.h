@@ -45,7 +45,7 @@ protected:
 };
 
 // For comparing dates in a line.
-std::string Numbers(const DtDate& date);
-std::string Numbers(const VORNCALENDARDATE& date);
+std::string DateText(const DtDate& date);
+std::string DateText(const VORNCALENDARDATE& date);
 
 } // namespace vorn::test

@@ -1,14 +1,17 @@
 // The dialog that a date edit drops down, run as users see it: what it does to the date.
 #include "tests/windows/host/popup_host.h"
 #include "tests/windows/support/input.h"
+#include "tests/windows/support/pixels.h"
 
 #include <tuple>
 
 namespace {
 
+using vorn::test::DateText;
 using vorn::test::FindPopup;
 using vorn::test::Message;
-using vorn::test::Numbers;
+using vorn::test::Pixels;
+using vorn::test::PixelsOf;
 using vorn::test::PopupTest;
 using vorn::test::PumpMessages;
 using vorn::test::SendMouse;
@@ -19,6 +22,9 @@ class Popup : public PopupTest {};
 using Codes = std::vector<int>;
 const Codes kChanged = {EN_UPDATE, EN_CHANGE};
 
+// The button of a date edit of 160 by 32 pixels: seven eighths of its height.
+constexpr RECT kButtonOf160 = {160 - 28, 0, 160, 32};
+
 // Notifications but those of the focus, which comes and goes with the dialog.
 Codes ChangesOf(Codes codes) {
     std::erase_if(codes, [](int code) { return code == EN_SETFOCUS || code == EN_KILLFOCUS; });
@@ -28,7 +34,7 @@ Codes ChangesOf(Codes codes) {
 TEST_F(Popup, OpensOnItsDate) {
     HWND dateEdit = Create();
     EXPECT_TRUE(Open(dateEdit, [](HWND dialog) {
-        EXPECT_EQ(Numbers(CalendarDate(dialog)), "12/25/1995");
+        EXPECT_EQ(DateText(CalendarDate(dialog)), "12/25/1995");
         EXPECT_EQ(TextOf(GetDlgItem(dialog, 14)), "1995");
         EXPECT_TRUE(IsWindowVisible(dialog));
         EXPECT_FALSE(IsWindowEnabled(GetParent(dialog))) << "it is modal";
@@ -37,6 +43,27 @@ TEST_F(Popup, OpensOnItsDate) {
     EXPECT_EQ(FindPopup(), nullptr);
     EXPECT_TRUE(IsWindowEnabled(host.window()));
     EXPECT_EQ(GetFocus(), dateEdit);
+}
+
+TEST_F(Popup, HasNoCaptureAndLooksPressedWhileItIsOpen) {
+    HWND dateEdit = Create();
+    const Pixels before = PixelsOf(dateEdit);
+    EXPECT_TRUE(Open(dateEdit, [&](HWND dialog) {
+        EXPECT_EQ(GetCapture(), nullptr);
+        SetWindowPos(dialog, nullptr, 300, 200, 0, 0, SWP_NOSIZE | SWP_NOZORDER);
+        PumpMessages();
+        const Pixels pressed = PixelsOf(dateEdit);
+        EXPECT_NE(pressed.Count(kButtonOf160, GetSysColor(COLOR_BTNSHADOW)),
+                  before.Count(kButtonOf160, GetSysColor(COLOR_BTNSHADOW)));
+        Command(dialog, IDCANCEL);
+    }));
+    PumpMessages();
+    const Pixels after = PixelsOf(dateEdit);
+    for (int y = 0; y < 32; ++y) {
+        for (int x = 160 - 28; x < 160; ++x) {
+            ASSERT_EQ(after.At(x, y), before.At(x, y)) << x << ", " << y;
+        }
+    }
 }
 
 TEST_F(Popup, OpensOnTodayWithoutADateAndLeavesNoneWhenCancelled) {
@@ -63,7 +90,7 @@ TEST_F(Popup, TakesTheNumbersOfNoDateLiterally) {
     const DtDate none = {9, 0, 0};
     dtSetDate(dateEdit, &none);
     EXPECT_TRUE(Open(dateEdit, [](HWND dialog) {
-        EXPECT_EQ(Numbers(CalendarDate(dialog)), "9/0/0");
+        EXPECT_EQ(DateText(CalendarDate(dialog)), "9/0/0");
         Command(dialog, IDCANCEL);
     }));
     EXPECT_TRUE(dtIsNull(dateEdit));
@@ -89,7 +116,7 @@ TEST_F(Popup, AcceptsWhatTheCalendarShows) {
         ShowDate(dialog, 2001, 2, 3);
         Click(dialog, IDOK);
     }));
-    EXPECT_EQ(Numbers(DateOf(dateEdit)), "2/3/2001");
+    EXPECT_EQ(DateText(DateOf(dateEdit)), "2/3/2001");
     EXPECT_FALSE(dtIsNull(dateEdit));
     EXPECT_EQ(TextOf(dateEdit).substr(TextOf(dateEdit).size() - 4), "2001");
     EXPECT_EQ(log, (std::vector<std::string>{"changed 2/3/2001", "update", "change"}));
@@ -115,7 +142,7 @@ TEST_F(Popup, AcceptsACalendarWithoutASelection) {
         }
         Command(dialog, IDOK);
     }));
-    EXPECT_EQ(Numbers(DateOf(dateEdit)), "0/0/0");
+    EXPECT_EQ(DateText(DateOf(dateEdit)), "0/0/0");
     EXPECT_FALSE(dtIsNull(dateEdit));
 }
 
@@ -124,7 +151,7 @@ TEST_F(Popup, ErasesTheDate) {
     host.TakeNotifications();
     EXPECT_TRUE(Open(dateEdit, [](HWND dialog) { Click(dialog, 22); }));
     EXPECT_TRUE(dtIsNull(dateEdit));
-    EXPECT_EQ(Numbers(DateOf(dateEdit)), "0/0/0");
+    EXPECT_EQ(DateText(DateOf(dateEdit)), "0/0/0");
     EXPECT_EQ(TextOf(dateEdit), "");
     EXPECT_EQ(ValueOf(dateEdit), "");
     EXPECT_EQ(ChangesOf(host.TakeNotifications()), kChanged);
@@ -141,7 +168,7 @@ TEST_F(Popup, ChangesNothingWhenCancelled) {
         HWND dateEdit = Create();
         host.TakeNotifications();
         EXPECT_TRUE(Open(dateEdit, {[](HWND dialog) { ShowDate(dialog, 2001, 2, 3); }, way}));
-        EXPECT_EQ(Numbers(DateOf(dateEdit)), "12/25/1995");
+        EXPECT_EQ(DateText(DateOf(dateEdit)), "12/25/1995");
         EXPECT_EQ(ChangesOf(host.TakeNotifications()), Codes{});
         EXPECT_EQ(GetFocus(), dateEdit);
         DestroyWindow(dateEdit);
@@ -195,7 +222,7 @@ TEST_F(Popup, AClickOnADayOnlySelectsIt) {
                                     SendMouse(GetDlgItem(dialog, 300), WM_LBUTTONDOWN, 8, y);
                                 },
                                 [](HWND dialog) {
-                                    EXPECT_EQ(Numbers(CalendarDate(dialog)), "1/2/2000");
+                                    EXPECT_EQ(DateText(CalendarDate(dialog)), "1/2/2000");
                                     Command(dialog, IDCANCEL);
                                 }}));
     EXPECT_EQ(ValueOf(dateEdit), "12/25/1995");
@@ -209,11 +236,11 @@ TEST_F(Popup, ItsArrowsTurnTheYears) {
     EXPECT_TRUE(Open(dateEdit, [](HWND dialog) {
         ShowDate(dialog, 1995, 2, 3);
         Command(dialog, 23);
-        EXPECT_EQ(Numbers(CalendarDate(dialog)), "2/3/1994");
+        EXPECT_EQ(DateText(CalendarDate(dialog)), "2/3/1994");
         EXPECT_EQ(TextOf(GetDlgItem(dialog, 14)), "1994");
         Command(dialog, 25);
         Command(dialog, 25);
-        EXPECT_EQ(Numbers(CalendarDate(dialog)), "2/3/1996");
+        EXPECT_EQ(DateText(CalendarDate(dialog)), "2/3/1996");
         EXPECT_EQ(TextOf(GetDlgItem(dialog, 14)), "1996");
         Command(dialog, IDCANCEL);
     }));
@@ -225,14 +252,14 @@ TEST_F(Popup, ItsArrowsEndAtZeroAnd9999) {
     EXPECT_TRUE(Open(dateEdit, [](HWND dialog) {
         ShowDate(dialog, 1, 2, 3);
         Command(dialog, 23);
-        EXPECT_EQ(Numbers(CalendarDate(dialog)), "2/3/0");
+        EXPECT_EQ(DateText(CalendarDate(dialog)), "2/3/0");
         EXPECT_EQ(TextOf(GetDlgItem(dialog, 14)), "1") << "the least that the box takes";
         Command(dialog, 23);
-        EXPECT_EQ(Numbers(CalendarDate(dialog)), "2/3/0");
+        EXPECT_EQ(DateText(CalendarDate(dialog)), "2/3/0");
         ShowDate(dialog, 9998, 2, 3);
         Command(dialog, 25);
         Command(dialog, 25);
-        EXPECT_EQ(Numbers(CalendarDate(dialog)), "2/3/9999");
+        EXPECT_EQ(DateText(CalendarDate(dialog)), "2/3/9999");
         EXPECT_EQ(TextOf(GetDlgItem(dialog, 14)), "9999");
         Command(dialog, IDCANCEL);
     }));
@@ -244,9 +271,9 @@ TEST_F(Popup, AnArrowsFirstPressStepsTwice) {
     HWND dateEdit = Create();
     EXPECT_TRUE(Open(dateEdit, [](HWND dialog) {
         Click(dialog, 23);
-        EXPECT_EQ(Numbers(CalendarDate(dialog)), "12/25/1993");
+        EXPECT_EQ(DateText(CalendarDate(dialog)), "12/25/1993");
         Click(dialog, 23);
-        EXPECT_EQ(Numbers(CalendarDate(dialog)), "12/25/1992");
+        EXPECT_EQ(DateText(CalendarDate(dialog)), "12/25/1992");
         Command(dialog, IDCANCEL);
     }));
 }
@@ -262,12 +289,12 @@ TEST_F(Popup, ATypedYearIsTheDateEditsAtOnceAndStaysWhenCancelled) {
                                 },
                                 [=](HWND dialog) {
                                     EXPECT_EQ(TextOf(GetDlgItem(dialog, 14)), "1998");
-                                    EXPECT_EQ(Numbers(CalendarDate(dialog)), "12/25/1998")
+                                    EXPECT_EQ(DateText(CalendarDate(dialog)), "12/25/1998")
                                         << "the date edit's month and day";
                                     EXPECT_EQ(dtGetYear(dateEdit), 1998);
                                     Command(dialog, IDCANCEL);
                                 }}));
-    EXPECT_EQ(Numbers(DateOf(dateEdit)), "12/25/1998");
+    EXPECT_EQ(DateText(DateOf(dateEdit)), "12/25/1998");
     EXPECT_EQ(ValueOf(dateEdit), "12/25/1995") << "the text follows with the next change";
     EXPECT_EQ(ChangesOf(host.TakeNotifications()), Codes{});
 }
@@ -353,13 +380,13 @@ TEST_F(Popup, EachDateEditHasItsOwn) {
     const DtDate date = {7, 4, 1976};
     dtSetDate(second, &date);
     EXPECT_TRUE(Open(second, [](HWND dialog) {
-        EXPECT_EQ(Numbers(CalendarDate(dialog)), "7/4/1976");
+        EXPECT_EQ(DateText(CalendarDate(dialog)), "7/4/1976");
         EXPECT_FALSE(IsWindowVisible(GetDlgItem(dialog, 22)));
         ShowDate(dialog, 1977, 1, 1);
         Command(dialog, IDOK);
     }));
     EXPECT_TRUE(Open(first, [](HWND dialog) {
-        EXPECT_EQ(Numbers(CalendarDate(dialog)), "12/25/1995");
+        EXPECT_EQ(DateText(CalendarDate(dialog)), "12/25/1995");
         EXPECT_TRUE(IsWindowVisible(GetDlgItem(dialog, 22)));
         Command(dialog, IDCANCEL);
     }));
