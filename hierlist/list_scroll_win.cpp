@@ -40,7 +40,11 @@ void SetBar(HWND window, int bar, const BarRange& range, bool always) {
 // Sets one bar if it is wanted, and takes an unwanted one away.
 void SetBarIf(HWND window, int bar, bool wanted, DWORD styleBit, const BarRange& range,
               bool always) {
-    if (wanted || (StyleOf(window) & styleBit) != 0) {
+    const bool shown = (StyleOf(window) & styleBit) != 0;
+    if (wanted && always && !shown) {
+        ShowScrollBar(window, bar, TRUE); // nothing to scroll alone would not show it
+    }
+    if (wanted || shown) {
         SetBar(window, bar, wanted ? range : BarRange{}, wanted && always);
     }
 }

@@ -18,6 +18,7 @@ constexpr Control kControls[] = {
     {VORN_BUTTON_CLASS, VBTS_PICTURE | VBTS_NOTIFY},
     {VORN_UDLR_CLASS, WS_BORDER},
     {VORN_DIAL_CLASS, WS_TABSTOP},
+    {VORN_HIERLIST_CLASS, WS_VSCROLL | OLBS_SUNKEN},
 };
 
 TEST(Creation, FailsWithoutMemoryAndLeavesNoBlock) {
