@@ -46,6 +46,8 @@ public:
         return owner == &outline.top ? 0 : SeqPosition(owner->node) + 1;
     }
 
+    bool AreRows() const { return rows; }
+
 private:
     static OlbItem* ItemOf(const OlbSeqNode* node) {
         return node != nullptr ? node->item : nullptr;
@@ -65,66 +67,66 @@ private:
     bool rows;
 };
 
-// The first sibling that is to stand behind an item, null when all stay in front of it.
-OlbItem* FollowerByScan(const Outline& outline, const Siblings& siblings, const OlbItem* item) {
+// In front of a sibling; behind them all for null or when it is not in the same sequence.
+Place PlaceFor(Outline& outline, const Siblings& siblings, OlbItem* follower) {
+    const bool isThere = follower != nullptr && IsShown(outline, follower) == siblings.AreRows();
+    return isThere ? PlaceBefore(outline, follower) : siblings.End();
+}
+
+// In front of the first sibling that is to stand behind the item.
+Place PlaceByScan(Outline& outline, const Siblings& siblings, const OlbItem* item) {
     OlbItem* sibling = siblings.First();
     while (sibling != nullptr && CompareItems(outline, item, sibling) >= 0) {
         sibling = siblings.After(sibling);
     }
-    return sibling;
+    return PlaceFor(outline, siblings, sibling);
 }
 
-// The same among siblings in order, by halves. In a detached run these are positions.
-OlbItem* FollowerInRun(const Outline& outline, OlbSeqNode* run, const OlbItem* item) {
+// The child of a parent, null for the top, that an item below the parent is or is below.
+OlbItem* ChildAbove(const OlbItem* parent, OlbItem* item) {
+    while (item->parent != parent) {
+        item = item->parent;
+    }
+    return item;
+}
+
+// The same among siblings in order, which have positions [first, end) of a sequence to themselves:
+// each row on one way down tells the side by the sibling that it belongs to, which is compared only
+// once.
+Place PlaceByDescent(Outline& outline, OlbItem* owner, bool rows, const OlbItem* item) {
+    OlbSeqNode* root = rows ? outline.visibleRoot : owner->detachedRun;
+    const std::uint32_t first = rows ? Siblings(outline, owner, rows).FirstRow() : 0;
+    const std::uint32_t end = rows ? RowsEnd(outline, owner) : kNoRow;
+    const OlbItem* parent = owner != &outline.top ? owner : nullptr;
+    const OlbItem* leader = nullptr; // the nearest one known to stay in front
     OlbItem* follower = nullptr;
-    std::uint32_t low = 0;
-    std::uint32_t high = SeqCount(run);
-    while (low < high) {
-        const std::uint32_t middle = low + (high - low) / 2;
-        OlbItem* sibling = SeqAt(run, middle)->item;
-        if (CompareItems(outline, item, sibling) < 0) {
-            follower = sibling;
-            high = middle;
-        } else {
-            low = middle + 1;
+    const auto isBehind = [&](const OlbSeqNode* node, std::uint32_t position) {
+        if (position < first || position >= end) {
+            return position >= end;
         }
-    }
-    return follower;
+        OlbItem* sibling = ChildAbove(parent, node->item);
+        if (sibling != leader && sibling != follower) {
+            if (CompareItems(outline, item, sibling) < 0) {
+                follower = sibling;
+            } else {
+                leader = sibling;
+            }
+        }
+        return sibling == follower;
+    };
+    const std::uint32_t position = SeqFirstBehind(root, isBehind);
+    return {follower != nullptr ? follower->prevSibling : owner->lastChild, position, rows};
 }
 
-// Among rows each half starts from the sibling that a row in the middle is below.
-OlbItem* FollowerInRows(Outline& outline, OlbItem* owner, std::uint32_t low, const OlbItem* item) {
-    OlbItem* follower = nullptr;
-    std::uint32_t high = RowsEnd(outline, owner);
-    while (low < high) {
-        OlbItem* sibling = IndexToHandle(outline, low + (high - low) / 2);
-        while (OwnerOf(outline, sibling) != owner) {
-            sibling = sibling->parent;
-        }
-        if (CompareItems(outline, item, sibling) < 0) {
-            follower = sibling;
-            high = SeqPosition(sibling->node);
-        } else if (sibling->nextSibling != nullptr) {
-            low = SeqPosition(sibling->nextSibling->node);
-        } else {
-            break;
-        }
-    }
-    return follower;
+Place PlaceByText(Outline& outline, OlbItem* owner, bool rows, const OlbItem* item) {
+    return (owner->marks & kMarkInOrder) != 0
+               ? PlaceByDescent(outline, owner, rows, item)
+               : PlaceByScan(outline, Siblings(outline, owner, rows), item);
 }
 
-OlbItem* FollowerByText(Outline& outline, OlbItem* owner, bool rows, const OlbItem* item) {
-    const Siblings siblings(outline, owner, rows);
-    if ((owner->marks & kMarkInOrder) == 0) {
-        return FollowerByScan(outline, siblings, item);
-    }
-    return rows ? FollowerInRows(outline, owner, siblings.FirstRow(), item)
-                : FollowerInRun(outline, owner->detachedRun, item);
-}
-
-// The same as the host answers, which may do anything meanwhile: null as well when the sibling
-// asked about is no longer where it was. The host is asked once for each sibling at most, however
-// many it adds.
+// The first sibling that is to stand behind the item as the host answers, which may do anything
+// meanwhile: null as well when the sibling asked about is no longer where it was. The host is asked
+// once for each sibling at most, however many it adds.
 OlbItem* FollowerByHost(Outline& outline, const Watch& owner, bool rows, const OlbItem* item) {
     const Siblings siblings(outline, owner.Item(), rows);
     OlbItem* sibling = siblings.First();
@@ -161,25 +163,21 @@ OlbItem* AddChild(Outline& outline, OlbItem* parent, const char* text, std::int1
     item->bitmapIndex = bitmapIndex;
 
     OlbItem* owner = parent != nullptr ? parent : &outline.top;
-    bool isRow = MakeRoom(outline, owner, outline.autoOpen);
-    OlbItem* follower = nullptr;
     const bool sorted = (outline.style & kStyleSort) != 0;
     const bool byText = sorted && !HoldsValues(outline);
-    if (byText) {
-        follower = FollowerByText(outline, owner, isRow, item);
-    } else if (sorted) {
+    OlbItem* follower = nullptr;
+    if (sorted && !byText) {
+        const bool wouldBeRow = MakeRoom(outline, owner, outline.autoOpen);
         const Watch watch(outline, owner);
-        follower = FollowerByHost(outline, watch, isRow, item);
+        follower = FollowerByHost(outline, watch, wouldBeRow, item);
         if (watch.Item() == nullptr) {
             FreeItem(item);
             return NoItem();
         }
-        isRow = MakeRoom(outline, owner, outline.autoOpen);
     }
-
-    const bool hasFollower = follower != nullptr && IsShown(outline, follower) == isRow;
-    const Place place =
-        hasFollower ? PlaceBefore(outline, follower) : Siblings(outline, owner, isRow).End();
+    const bool isRow = MakeRoom(outline, owner, outline.autoOpen);
+    const Place place = byText ? PlaceByText(outline, owner, isRow, item)
+                               : PlaceFor(outline, Siblings(outline, owner, isRow), follower);
     KeepOrder(owner, byText);
     PutAt(outline, owner, place, item);
     ++owner->childCount;

@@ -1,4 +1,6 @@
-// Items' memory, and what follows the record in an item's block.
+// Items' memory: one block for an item, its node and its text. A block of its own would cost the
+// node as much again as it has bytes, and a second way to memory wherever the two are used
+// together.
 #include "core/memory.h"
 #include "hierlist/structure.h"
 
@@ -12,12 +14,18 @@ namespace {
 
 constexpr std::size_t kLargestBlock = std::numeric_limits<std::uint16_t>::max();
 
+// What an item's block holds: its text's slot follows.
+struct ItemBlock {
+    OlbItem item;
+    OlbSeqNode node;
+};
+
 char* SlotOf(OlbItem* item) {
-    return reinterpret_cast<char*>(item + 1);
+    return reinterpret_cast<char*>(item) + sizeof(ItemBlock);
 }
 
 const char* SlotOf(const OlbItem* item) {
-    return reinterpret_cast<const char*>(item + 1);
+    return reinterpret_cast<const char*>(item) + sizeof(ItemBlock);
 }
 
 // What the slot behind a record takes for a text: room for a pointer to one, in case it grows.
@@ -27,18 +35,15 @@ std::size_t SlotSize(std::size_t length) {
 
 // An item whose slot has this size, and its node. Null when there is no memory.
 OlbItem* Allocate(std::size_t slotSize) {
-    const std::size_t size = sizeof(OlbItem) + slotSize;
-    void* block = AllocBlock(nullptr, static_cast<std::uint16_t>(size));
-    void* nodeBlock = AllocBlock(nullptr, sizeof(OlbSeqNode));
-    if (block == nullptr || nodeBlock == nullptr) {
-        FreeBlock(nullptr, block);
-        FreeBlock(nullptr, nodeBlock);
+    const std::size_t size = sizeof(ItemBlock) + slotSize;
+    void* memory = AllocBlock(nullptr, static_cast<std::uint16_t>(size));
+    if (memory == nullptr) {
         return nullptr;
     }
-    auto* item = new (block) OlbItem{};
-    item->node = new (nodeBlock) OlbSeqNode{};
-    item->node->item = item;
-    return item;
+    auto* block = new (memory) ItemBlock{};
+    block->item.node = &block->node;
+    block->node.item = &block->item;
+    return &block->item;
 }
 
 OlbItem* WithValue(std::uintptr_t value) {
@@ -51,7 +56,7 @@ OlbItem* WithValue(std::uintptr_t value) {
 }
 
 bool Fits(std::size_t length) {
-    return length <= kLargestBlock - sizeof(OlbItem) - 4;
+    return length <= kLargestBlock - sizeof(ItemBlock) - 4;
 }
 
 OlbItem* WithText(const char* text, std::size_t length) {
@@ -164,7 +169,6 @@ OlbItem* Duplicate(const OlbItem* item) {
 
 void FreeItem(OlbItem* item) {
     FreeBlock(nullptr, OutsideText(item));
-    FreeBlock(nullptr, item->node);
     FreeBlock(nullptr, item);
 }
 

@@ -37,7 +37,7 @@ constexpr std::uint8_t kMarkValue = 8;       // holds a value of the host's inst
 constexpr std::uint8_t kMarkDying = 16;      // taken out, to be freed; no operation takes it
 
 // One row, or what becomes a row when its parents open. Its address is its handle: it never moves.
-// The text follows the record, in the same block.
+// The text follows in the same block, behind the item's node.
 //
 // childCount is what the host sees; of children that were inserted at a position under a hidden
 // parent it knows nothing. The links know all children, and so does linkedChildren.
@@ -62,9 +62,10 @@ struct OlbItem {
     std::uint32_t selectedChildren = 0;
     OlbItem* nextSelected = nullptr; // the neighbours in the order of selecting
     OlbItem* prevSelected = nullptr;
+    std::uint32_t sidePlace = 0; // in the side table, from 1 on; 0 when it is not there
     std::uint8_t marks = kMarkInOrder;
 };
-static_assert(sizeof(void*) != 4 || sizeof(OlbItem) == 76);
+static_assert(sizeof(void*) != 4 || sizeof(OlbItem) == 80);
 
 // What operations answer when there is no item to answer; as an argument refused like null.
 inline OlbItem* NoItem() {

@@ -5,13 +5,6 @@
 namespace vorn::hierlist {
 namespace {
 
-bool IsBelowOrSame(const OlbItem* item, const OlbItem* top) {
-    while (item != nullptr && item != top) {
-        item = item->parent;
-    }
-    return item != nullptr;
-}
-
 // Whether an item is one of the first `count` among its siblings.
 bool IsAmongFirst(const OlbItem* owner, const OlbItem* item, std::uint32_t count) {
     if (AreInSequence(owner)) {
@@ -39,14 +32,20 @@ bool Transplant(Outline& outline, OlbItem* item, OlbItem* owner, std::uint32_t p
     return !recorded || outline.callbacks->recordItem(outline.context, item, value);
 }
 
-// Ends a move. Returns the item, or NoItem() when the host has deleted it.
-OlbItem* Finish(Outline& outline, OlbItem* item, bool recorded) {
+// Ends a move. Where a row was taken away everything is drawn again whatever the style says.
+// Returns the item, or NoItem() when the host has deleted it.
+OlbItem* Finish(Outline& outline, OlbItem* item, bool wasRow, bool recorded) {
     const Watch watch(outline, item);
     if (!recorded) {
         outline.callbacks->errorSpace(outline.context);
     }
-    if (!watch.Gone()) {
+    if (!watch.Gone() && !wasRow) {
         TellRowsChanged(outline, Redraw::All, kNoRow);
+    } else if (!watch.Gone()) {
+        outline.callbacks->rowsChanged(outline.context);
+        if (!watch.Gone()) {
+            outline.callbacks->redraw(outline.context, Redraw::All, kNoRow);
+        }
     }
     return watch.Item() != nullptr ? watch.Item() : NoItem();
 }
@@ -61,8 +60,9 @@ OlbItem* MoveItem(Outline& outline, OlbItem* item, OlbItem* newParent, std::uint
         return NoItem();
     }
     OlbItem* owner = newParent != nullptr ? newParent : &outline.top;
+    const bool wasRow = IsShown(outline, item);
     const bool recorded = Transplant(outline, item, owner, WidePosition(position));
-    return Finish(outline, item, recorded);
+    return Finish(outline, item, wasRow, recorded);
 }
 
 OlbItem* MoveChildren(Outline& outline, OlbItem* from, OlbItem* newParent, std::uint16_t position) {
@@ -79,12 +79,14 @@ OlbItem* MoveChildren(Outline& outline, OlbItem* from, OlbItem* newParent, std::
     }
     OlbItem* owner = newParent != nullptr ? newParent : &outline.top;
     std::uint32_t at = WidePosition(position);
+    bool wasRow = false;
     bool recorded = true;
     while (OlbItem* child = from->firstChild) {
+        wasRow |= IsShown(outline, child);
         recorded &= Transplant(outline, child, owner, at);
         at += at != kAtEnd;
     }
-    return Finish(outline, last, recorded);
+    return Finish(outline, last, wasRow, recorded);
 }
 
 } // namespace vorn::hierlist

@@ -103,7 +103,8 @@ void Destroy(Outline& outline);
 
 // ---- Moving and copying ----
 
-// Moves an item, closed, to a position under a new parent, or the top for null. Returns the item;
+// Moves an item, closed, to a position under a new parent, or the top for null. The control is
+// drawn again if the item was a row, even one with the style not to redraw. Returns the item;
 // NoItem() when the new parent is the item or below it, null for no item.
 OlbItem* MoveItem(Outline& outline, OlbItem* item, OlbItem* newParent, std::uint16_t position);
 
@@ -126,8 +127,8 @@ OlbItem* CopyChildren(Outline& outline, OlbItem* from, OlbItem* newParent, std::
 OlbItem* FindString(const Outline& outline, OlbItem* parent, std::uint32_t start, const char* text,
                     bool exact);
 
-// Writes the texts from the top down to the item, with separators, of at most 255 characters and
-// terminated; an empty one for no item. Returns the length.
+// Writes the texts from the top down to the item, with separators (none when it is NUL), of at most
+// 255 characters and terminated; an empty one for no item. Returns the length.
 std::uint32_t FullPath(const Outline& outline, const OlbItem* item, char* buffer);
 
 } // namespace vorn::hierlist

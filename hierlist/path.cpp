@@ -9,11 +9,11 @@ namespace {
 
 constexpr std::size_t kLongestPath = 255;
 
-// A part of the path that ends where the part below it begins.
+// A part of the path that ends where the part below it begins. A separator of NUL is none.
 std::size_t LengthOf(const Outline& outline, const OlbItem* item, bool isLast) {
     const std::size_t length = std::strlen(TextOf(item));
     const bool ends = length != 0 && TextOf(item)[length - 1] == outline.pathSeparator;
-    return length + (isLast || ends ? 0 : 1);
+    return length + (isLast || ends || outline.pathSeparator == '\0' ? 0 : 1);
 }
 
 } // namespace

@@ -32,6 +32,14 @@ constexpr std::uint32_t kSeqFront = 0xFFFFFFFF;
 // memory ends, otherwise because counts do.
 constexpr int kSeqMaxDepth = sizeof(void*) == 4 ? 39 : 45;
 
+inline OlbSeqNode* LeftChild(const OlbSeqNode* node) {
+    return node->hasLeft != 0 ? node->left : nullptr;
+}
+
+inline OlbSeqNode* RightChild(const OlbSeqNode* node) {
+    return node->hasRight != 0 ? node->right : nullptr;
+}
+
 // The number of nodes.
 std::uint32_t SeqCount(const OlbSeqNode* root);
 
@@ -51,6 +59,24 @@ OlbSeqNode* SeqPrevious(OlbSeqNode* node);
 // the cost is bounded by half the square of the height, not by the height.
 std::uint32_t SeqPosition(const OlbSeqNode* node);
 OlbSeqNode* SeqRoot(OlbSeqNode* node);
+
+// The position of the first node that is behind something, the number of nodes when none is.
+// `isBehind(node, position)` must answer false up to some node and true from there on. It is asked
+// once for each node on one way down, from the root on.
+template <class Question>
+std::uint32_t SeqFirstBehind(OlbSeqNode* root, Question isBehind) {
+    std::uint32_t first = 0;
+    for (OlbSeqNode* node = root; node != nullptr;) {
+        const std::uint32_t position = first + node->leftCount;
+        if (isBehind(node, position)) {
+            node = LeftChild(node);
+        } else {
+            first = position + 1;
+            node = RightChild(node);
+        }
+    }
+    return first;
+}
 
 // Puts a node that is in no tree behind the one at `after`: in front of all with kSeqFront, at the
 // end when `after` is past it. Of the node only `item` counts.

@@ -5,14 +5,6 @@
 
 namespace vorn::hierlist {
 
-inline OlbSeqNode* LeftChild(const OlbSeqNode* node) {
-    return node->hasLeft != 0 ? node->left : nullptr;
-}
-
-inline OlbSeqNode* RightChild(const OlbSeqNode* node) {
-    return node->hasRight != 0 ? node->right : nullptr;
-}
-
 inline int SeqHeight(const OlbSeqNode* root) {
     return root == nullptr ? 0 : root->height;
 }

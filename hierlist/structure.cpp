@@ -4,25 +4,13 @@
 namespace vorn::hierlist {
 namespace {
 
-// The row behind everything below an item whose links do not tell which row is the last: walks
-// them.
-std::uint32_t RowsEndByWalk(Outline& outline, const OlbItem* owner) {
-    const OlbItem* at = owner;
-    for (;;) {
-        const OlbSeqNode* next = SeqNext(at->node);
-        if (next == nullptr) {
-            return SeqCount(outline.visibleRoot);
-        }
-        // The next row is below the owner when its parent is on the way from here to there.
-        const OlbItem* parent = at;
-        while (parent != next->item->parent && parent != owner) {
-            parent = parent->parent;
-        }
-        if (parent != next->item->parent) {
-            return SeqPosition(next);
-        }
-        at = next->item;
-    }
+// The row behind everything below a shown item whose links do not tell which row is the last. All
+// that is below it is in one piece.
+std::uint32_t RowsEndByDescent(const Outline& outline, const OlbItem* owner) {
+    const std::uint32_t row = SeqPosition(owner->node);
+    return SeqFirstBehind(outline.visibleRoot, [&](const OlbSeqNode* node, std::uint32_t position) {
+        return position > row && !IsBelowOrSame(node->item, owner);
+    });
 }
 
 void LinkNeighbours(OlbItem* owner, OlbItem* before, OlbItem* after) {
@@ -35,6 +23,13 @@ void LinkNeighbours(OlbItem* owner, OlbItem* before, OlbItem* after) {
 std::int16_t LevelBelow(const OlbItem* owner) {
     return static_cast<std::int16_t>(owner->level < kDeepestLevel ? owner->level + 1
                                                                   : kDeepestLevel);
+}
+
+bool IsBelowOrSame(const OlbItem* item, const OlbItem* above) {
+    while (item != nullptr && item != above) {
+        item = item->parent;
+    }
+    return item != nullptr;
 }
 
 OlbItem* NextBelow(OlbItem* root, OlbItem* item) {
@@ -84,7 +79,7 @@ std::uint32_t RowsEnd(Outline& outline, OlbItem* owner) {
     }
     while (owner->shownChildren != 0) {
         if ((owner->marks & kMarkOddChildren) != 0) {
-            return RowsEndByWalk(outline, owner);
+            return RowsEndByDescent(outline, owner);
         }
         owner = owner->lastChild;
     }

@@ -78,6 +78,9 @@ std::int16_t LevelBelow(const OlbItem* owner);
 // Gives everything below an item its level.
 void LevelAllBelow(OlbItem* item);
 
+// Whether an item is another one or below it. Takes a step for each level.
+bool IsBelowOrSame(const OlbItem* item, const OlbItem* above);
+
 // The next item in the order of links, everything below `root` and then null. Items without a
 // parent are children of `root`.
 OlbItem* NextBelow(OlbItem* root, OlbItem* item);

@@ -11,6 +11,7 @@ int main() {
     LoadLibraryA("VORN32.dll");
     LoadLibraryA("comctl32.dll");
     bench::Host();
+    bench::MeasureOutline();
     bench::MeasureButton();
     bench::MeasureCalendar();
     bench::MeasurePercentBar();

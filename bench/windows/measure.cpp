@@ -26,6 +26,25 @@ double Median(std::vector<double> values) {
     return values[values.size() / 2];
 }
 
+// What the process has of memory of its own, in use by its heaps or held ready for them.
+SIZE_T PrivateBytes() {
+    SIZE_T bytes = 0;
+    MEMORY_BASIC_INFORMATION region{};
+    for (const char* at = nullptr; VirtualQuery(at, &region, sizeof region) != 0;
+         at = static_cast<const char*>(region.BaseAddress) + region.RegionSize) {
+        if (region.State == MEM_COMMIT && region.Type == MEM_PRIVATE) {
+            bytes += region.RegionSize;
+        }
+    }
+    return bytes;
+}
+
+double BytesAnItem(int items, const std::function<void()>& fill) {
+    const SIZE_T before = PrivateBytes();
+    fill();
+    return static_cast<double>(PrivateBytes() - before) / items;
+}
+
 std::function<void()> Repeated(int calls, const std::function<void()>& call) {
     return [calls, &call] {
         for (int i = 0; i < calls; ++i) {
@@ -75,6 +94,14 @@ void Growth(const char* what, const std::function<void(int)>& run) {
         std::fflush(stdout);
     }
     std::printf("\n");
+}
+
+void CompareBytes(const char* what, int items, const std::function<void()>& ours,
+                  const std::function<void()>& theirs) {
+    const double our = BytesAnItem(items, ours);
+    const double their = BytesAnItem(items, theirs);
+    std::printf("%-58s %10.1f B  %10.1f B  %8.2f\n", what, our, their, our / their);
+    std::fflush(stdout);
 }
 
 HWND Host() {

@@ -18,6 +18,11 @@ void Measure(const char* what, int calls, const std::function<void()>& ours);
 // `run` does the whole job for a number of items.
 void Growth(const char* what, const std::function<void(int items)>& run);
 
+// Prints one row: the memory that the process has more of after filling ours and theirs, in bytes
+// an item, and ours / theirs. Neither may free what it made.
+void CompareBytes(const char* what, int items, const std::function<void()>& ours,
+                  const std::function<void()>& theirs);
+
 // A visible top-level window to put controls on.
 HWND Host();
 
@@ -40,5 +45,6 @@ void MeasureDial();
 void MeasureCalendar();
 void MeasurePercentBar();
 void MeasureFontSelect();
+void MeasureOutline();
 
 } // namespace bench

@@ -1,6 +1,8 @@
 // Adding children, and rows and handles.
 #include "tests/support/outline_host.h"
 
+#include <cstdio>
+#include <cstdlib>
 #include <gtest/gtest.h>
 #include <memory>
 
@@ -44,7 +46,7 @@ TEST(OutlineItem, NullTextIsEmpty) {
 
 TEST(OutlineItem, TextFitsTheLargestBlock) {
     TestHost host;
-    const std::size_t longest = 65535 - sizeof(OlbItem) - 4;
+    const std::size_t longest = 65535 - sizeof(OlbItem) - sizeof(OlbSeqNode) - 4;
     const std::string fits(longest, 'x');
     EXPECT_EQ(TextOf(host.Add(nullptr, fits.c_str())), fits);
     host.TakeLog();
@@ -376,6 +378,46 @@ TEST(OutlineSort, ChangedItemsAreSearchedFromTheFront) {
     EXPECT_EQ(host.Rows(), "0b 0x 0d 0a 0e 0m 0c");
 }
 
+int comparisons = 0;
+
+int CountAndCompare(void* /*context*/, const char* first, const char* second) {
+    ++comparisons;
+    return std::strcmp(first, second);
+}
+
+// A balanced tree of n nodes is at most 1.4405 log2(n + 2) deep, and one way down it is all that an
+// addition asks about: 20 for 20,000 rows, where a walk would ask about 5,000.
+TEST(OutlineSort, AmongSiblingsInOrderTakesOneWayDown) {
+    constexpr int kSiblings = 5'000;
+    constexpr int kDeepest = 20;
+    for (const bool open : {false, true}) {
+        TestHost host;
+        Callbacks counting = *host.outline.callbacks;
+        counting.compareTexts = CountAndCompare;
+        host.outline.callbacks = &counting;
+        host.outline.compatibilityMode = 0;
+        host.outline.style = kStyleSort | kStyleNoRedraw;
+        host.outline.autoOpen = open;
+        OlbItem* p = host.Add(nullptr, "p");
+        host.Add(nullptr, "q");
+        for (int i = 0; i < kSiblings; ++i) {
+            char text[8];
+            std::snprintf(text, sizeof text, "%05d", i * 7919 % kSiblings); // in no order
+            comparisons = 0;
+            OlbItem* sibling = host.Add(p, text);
+            ASSERT_LE(comparisons, kDeepest) << i << (open ? ", rows" : ", detached");
+            host.Add(host.Add(sibling, "x"), "y");
+            host.Add(sibling, "z");
+        }
+        EXPECT_EQ(host.outline.visibleCount, open ? 4u * kSiblings + 2 : 2u);
+        const OlbItem* sibling = p->firstChild;
+        for (int i = 0; i < kSiblings; ++i, sibling = sibling->nextSibling) {
+            ASSERT_EQ(std::atoi(TextOf(sibling)), i);
+            ASSERT_EQ(HandleToIndex(sibling), static_cast<std::uint32_t>(open ? 4 * i + 1 : i));
+        }
+    }
+}
+
 TEST(OutlineSort, ParentComparesValuesInOrder) {
     TestHost host;
     host.outline.compatibilityMode = 0;
@@ -412,6 +454,20 @@ TEST(OutlineAdd, TellsInOrder) {
     EXPECT_EQ(host.TakeLog(), (Lines{"measure a 0", "record a 0", "rows", "redraw all"}));
     host.Add(nullptr, "b");
     EXPECT_EQ(host.TakeLog(), (Lines{"measure b 1", "record b 0", "rows", "redraw all"}));
+}
+
+TEST(OutlineAdd, MeasuresHiddenItemsWithoutARow) {
+    TestHost host;
+    host.outline.compatibilityMode = 0;
+    host.outline.style = kStyleOwnerDrawVariable;
+    host.answerToMeasure = 33;
+    OlbItem* p = host.AddValue(nullptr, 1);
+    host.TakeLog();
+    EXPECT_EQ(host.AddValue(p, 2)->height, 33);
+    EXPECT_EQ(host.TakeLog(), (Lines{"measure 2 -", "redraw row 0"}));
+    EXPECT_EQ(InsertChild(host.outline, p->firstChild, 0, reinterpret_cast<const char*>(3))->height,
+              33);
+    EXPECT_EQ(host.TakeLog(), (Lines{"measure 3 -"}));
 }
 
 TEST(OutlineAdd, MeasuresOnlyVariableHeights) {

@@ -127,6 +127,8 @@ TEST(OutlinePath, JoinsTextsWithTheSeparator) {
     EXPECT_EQ(PathOf(host.outline, c), "one\\two\\three");
     host.outline.pathSeparator = '/';
     EXPECT_EQ(PathOf(host.outline, c), "one/two/three");
+    host.outline.pathSeparator = '\0';
+    EXPECT_EQ(PathOf(host.outline, c), "onetwothree");
 }
 
 TEST(OutlinePath, SeparatorIsNotDoubled) {

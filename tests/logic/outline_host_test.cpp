@@ -46,7 +46,7 @@ TEST(OutlineHost, DeletesTheParentWhileAskedToCompare) {
     host.Once("compare 25 20", [&] { DeleteItem(host.outline, host.p); });
     EXPECT_EQ(host.AddValue(host.p, 25), NoItem());
     EXPECT_EQ(host.Rows(), "");
-    EXPECT_EQ(BlockCount(), blocks - 8);
+    EXPECT_EQ(BlockCount(), blocks - 4);
 }
 
 TEST(OutlineHost, DeletesTheSiblingWhileAskedToCompare) {
@@ -96,7 +96,7 @@ TEST(OutlineHost, DestroysTheOutlineWhileAskedToCompare) {
     const std::uint32_t blocks = BlockCount();
     host.Once("compare", [&] { Destroy(host.outline); });
     EXPECT_EQ(host.AddValue(host.p, 25), NoItem());
-    EXPECT_EQ(BlockCount(), blocks - 8);
+    EXPECT_EQ(BlockCount(), blocks - 4);
 }
 
 // The outline's memory itself goes with the control's record.

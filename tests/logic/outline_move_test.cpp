@@ -200,6 +200,20 @@ TEST(OutlineMove, KeepsTheSideTablesValue) {
     EXPECT_EQ(host.TakeLog(), (Lines{"forget b", "record b 42", "rows", "redraw all"}));
 }
 
+TEST(OutlineMove, RowIsRedrawnEvenUnderNoRedraw) {
+    Small host;
+    host.outline.style = kStyleNoRedraw;
+    host.outline.compatibilityMode = 0;
+    host.Move(host.b, nullptr, 0);
+    EXPECT_EQ(host.TakeLog(), (Lines{"rows", "redraw all"}));
+    MoveChildren(host.outline, host.a, nullptr, 0);
+    EXPECT_EQ(host.TakeLog(), (Lines{"rows", "redraw all"}));
+    OlbItem* hidden = host.Add(host.q, "h");
+    host.TakeLog();
+    host.Move(hidden, nullptr, 0);
+    EXPECT_EQ(host.TakeLog(), (Lines{"rows"})) << "it was no row";
+}
+
 TEST(OutlineMove, FullSideTableIsTold) {
     Small host;
     host.sideTableFull = true;
