@@ -3,9 +3,14 @@
 add_library(vorn_settings INTERFACE)
 target_compile_features(vorn_settings INTERFACE cxx_std_20)
 target_compile_options(vorn_settings INTERFACE
-  -Wall -Wextra -Wpedantic -Wconversion -Werror
+  -Wall -Wextra -Wpedantic -Wconversion -Werror)
+if(VORN_COVERAGE)
+  add_compile_options(--coverage)
+  add_link_options(--coverage)
+else()
   # The same sources give the same bytes wherever they lie.
-  -ffile-prefix-map=${CMAKE_SOURCE_DIR}=.)
+  target_compile_options(vorn_settings INTERFACE -ffile-prefix-map=${CMAKE_SOURCE_DIR}=.)
+endif()
 
 if(WIN32)
   target_compile_definitions(vorn_settings INTERFACE _WIN32_WINNT=0x0601 WINVER=0x0601)

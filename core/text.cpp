@@ -35,6 +35,12 @@ void Append(TextBuilder& text, char character) {
     text.buffer[text.length] = '\0';
 }
 
+void AppendText(TextBuilder& text, const char* characters) {
+    for (; *characters != '\0'; ++characters) {
+        Append(text, *characters);
+    }
+}
+
 void AppendNumber(TextBuilder& text, std::uint32_t number, int digits) {
     char reversed[kLongestNumber];
     int count = 0;

@@ -19,9 +19,10 @@ struct TextBuilder {
 // An empty text.
 TextBuilder StartText(std::span<char> buffer);
 
-// Both append, or cut what does not fit. The character 0 appends nothing. A number is decimal, with
+// All append, or cut what does not fit. The character 0 appends nothing. A number is decimal, with
 // leading zeros up to `digits` places.
 void Append(TextBuilder& text, char character);
+void AppendText(TextBuilder& text, const char* characters);
 void AppendNumber(TextBuilder& text, std::uint32_t number, int digits);
 
 } // namespace vorn

@@ -51,8 +51,8 @@ Rect TitleRectangle(const Layout& layout, int panel);
 Rect WeekdayRectangle(const Layout& layout, int panel, int weekday);
 Rect CellRectangle(const Layout& layout, int panel, int cell);
 
-// Two of lines along the panel's right and lower edge, in painting order; empty or inverted where
-// it has none.
+// A pair of lines along the panel's right and lower edge, in painting order; empty or inverted
+// where it has none.
 struct Groove {
     Rect shadowRight;
     Rect shadowBottom;

@@ -112,9 +112,7 @@ ParentCommand CommandOfChange(const State& state, std::int32_t list, std::uint16
 
 void CopyFamilyName(std::span<char> buffer, const char* name) {
     TextBuilder text = StartText(buffer);
-    for (const char* next = name != nullptr ? name : kNoFamily; *next != '\0'; ++next) {
-        Append(text, *next);
-    }
+    AppendText(text, name != nullptr ? name : kNoFamily);
 }
 
 } // namespace vorn::fontselect

@@ -85,6 +85,9 @@ LRESULT Create(HWND window, WPARAM wParam, LPARAM lParam) {
     ListFamilies(window);
     AskList(ListOf(window, kFamilyList), CB_SETCURSEL, 0);
     ListSizes(window);
+    if (IsWindowEnabled(window) == FALSE) {
+        EnableLists(window, false);
+    }
     return RecordOf<Record>(window) != nullptr ? 1 : 0;
 }
 
@@ -124,6 +127,11 @@ void ListFamiliesAnew(HWND window) {
                                               reinterpret_cast<LPARAM>(chosen))
                                     : CB_ERR;
     AskList(list, CB_SETCURSEL, found >= 0 ? static_cast<WPARAM>(found) : 0);
+}
+
+void EnableLists(HWND window, bool enabled) {
+    EnableWindow(ListOf(window, kFamilyList), enabled ? TRUE : FALSE);
+    EnableWindow(ListOf(window, kSizeList), enabled ? TRUE : FALSE);
 }
 
 // A host may have destroyed the dialog or a list.

@@ -79,6 +79,21 @@ LRESULT OnGetFont(HWND window) {
     return reinterpret_cast<LRESULT>(record->font);
 }
 
+// The lists are what the user sees of it.
+LRESULT OnEnable(HWND window, bool enabled) {
+    EnableLists(window, enabled);
+    return 0;
+}
+
+// A host that gives the control the focus means what the user can work with.
+LRESULT OnSetFocus(HWND window) {
+    HWND families = ListOf(window, kFamilyList);
+    if (families != nullptr) {
+        SetFocus(families);
+    }
+    return 0;
+}
+
 // A click on the background. Only a host application wants to know of it.
 LRESULT OnButtonDown(HWND window, WPARAM wParam, LPARAM lParam) {
     if (!ParentIsHostApp(window)) {
@@ -201,6 +216,10 @@ extern "C" LRESULT CALLBACK VORNFontSelectWinFn(HWND window, UINT message, WPARA
         return OnSetFont(window, reinterpret_cast<HFONT>(wParam), lParam != 0);
     case WM_GETFONT:
         return OnGetFont(window);
+    case WM_ENABLE:
+        return OnEnable(window, wParam != 0);
+    case WM_SETFOCUS:
+        return OnSetFocus(window);
     case WM_LBUTTONDOWN:
         return OnButtonDown(window, wParam, lParam);
     case WM_COMMAND:

@@ -35,6 +35,9 @@ void Release(HWND window);
 // Lists the system's families anew, with the same choice when it is still there.
 void ListFamiliesAnew(HWND window);
 
+// Disables or enables both lists, as the control is.
+void EnableLists(HWND window, bool enabled);
+
 // The dialog, or one of its lists; null when there is none.
 HWND DialogOf(HWND window);
 HWND ListOf(HWND window, std::int32_t list);

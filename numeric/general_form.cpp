@@ -97,12 +97,6 @@ void AppendDecimal(TextBuilder& text, const DecimalForm& decimal) {
     }
 }
 
-void AppendText(TextBuilder& text, const char* characters) {
-    for (; *characters != '\0'; ++characters) {
-        Append(text, *characters);
-    }
-}
-
 } // namespace
 
 int GeneralForm(double value, std::span<char> buffer) {

@@ -9,10 +9,11 @@ from tree import finish
 
 RT_BITMAP = 2
 SUBFOLDER = 0x80000000
-BITMAPS = {217: ("outline", CELLS["outline"]), 222: ("button20", CELLS["button20"]),
-           223: ("button16", CELLS["button16"]), 228: ("hostapp", CELLS["hostapp"]),
-           **{int(cell[:3]): (name, [cell]) for name in ("pad", "fontmark", "treebox")
-              for cell in CELLS[name]}}
+# Sets that become one bitmap; of the others each file does, and its name begins with the number.
+STRIPS = {217: "outline", 222: "button20", 223: "button16", 228: "hostapp"}
+BITMAPS = {**{number: (name, CELLS[name]) for number, name in STRIPS.items()},
+           **{int(cell.partition("-")[0]): (name, [cell]) for name, cells in CELLS.items()
+              if name not in STRIPS.values() for cell in cells}}
 
 image = pathlib.Path(sys.argv[1]).read_bytes()
 

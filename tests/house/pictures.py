@@ -11,7 +11,7 @@ LETTERS = {
     "R": "FF0000", "g": "008000", "G": "00FF00", "o": "808000", "Y": "FFFF00", "n": "000080",
     "B": "0000FF", "p": "800080", "t": "008080", "C": "00FFFF"}
 SIZES = {"button20": (20, 20), "button16": (16, 15), "hostapp": (20, 20), "pad": (29, 29),
-         "fontmark": (16, 12), "outline": (16, 16), "treebox": (11, 11)}
+         "fontmark": (16, 12), "outline": (16, 16), "treebox": (11, 11), "yeararrow": (10, 13)}
 # The cells of each set in the order of their numbers.
 CELLS = {
     "button20": [
@@ -31,7 +31,8 @@ CELLS = {
         "00-empty", "01-item", "02-document", "03-computer", "04-program", "05-system-file",
         "06-folder", "07-open-folder", "08-text", "09-help", "10-removable-drive",
         "11-fixed-drive", "12-network-drive", "13-cd-drive"],
-    "treebox": ["214-closed", "215-open"]}
+    "treebox": ["214-closed", "215-open"],
+    "yeararrow": ["1023-previous", "1025-next"]}
 
 
 def path_of(set_name, cell):

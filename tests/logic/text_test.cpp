@@ -34,6 +34,17 @@ TEST(TextCopy, CutsToTheBuffer) {
     CopyText({}, "abcd");
 }
 
+TEST(TextBuilding, AppendsTextsAndCutsThem) {
+    std::vector<char> buffer = Filled(6);
+    TextBuilder text = StartText(buffer);
+    AppendText(text, "ab");
+    AppendText(text, "");
+    EXPECT_STREQ(buffer.data(), "ab");
+    AppendText(text, "cdef");
+    EXPECT_STREQ(buffer.data(), "abcde");
+    EXPECT_EQ(text.length, 5u);
+}
+
 TEST(TextBuilding, StartsEmptyAndAppends) {
     std::vector<char> buffer = Filled(16);
     TextBuilder text = StartText(buffer);

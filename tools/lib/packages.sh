@@ -15,6 +15,8 @@ picture_packages=(netpbm)
 picture_reason="to make the library's pictures and to write pictures as PNG"
 test_packages=(clang clang-format clang-tidy libclang-rt-dev googletest shellcheck git binutils)
 test_reason="to test and to check the source"
+coverage_packages=(gcovr)
+coverage_reason="to tell what the tests run"
 bench_packages=(libbenchmark-dev)
 bench_reason="to measure"
 

@@ -100,6 +100,28 @@ TEST_F(FontSelectWindow, LeavesTheFocusWhereItIs) {
     EXPECT_EQ(GetFocus(), button);
 }
 
+TEST_F(FontSelectWindow, PassesTheFocusOnToItsFamilies) {
+    HWND control = Create();
+    SetFocus(control);
+    EXPECT_EQ(GetFocus(), Families(control));
+}
+
+TEST_F(FontSelectWindow, DisablesItsListsWithItself) {
+    HWND control = Create();
+    EnableWindow(control, FALSE);
+    EXPECT_FALSE(IsWindowEnabled(Families(control)));
+    EXPECT_FALSE(IsWindowEnabled(Sizes(control)));
+    EnableWindow(control, TRUE);
+    EXPECT_TRUE(IsWindowEnabled(Families(control)));
+    EXPECT_TRUE(IsWindowEnabled(Sizes(control)));
+}
+
+TEST_F(FontSelectWindow, MayBeMadeDisabled) {
+    HWND control = Create(WS_DISABLED);
+    EXPECT_FALSE(IsWindowEnabled(Families(control)));
+    EXPECT_FALSE(IsWindowEnabled(Sizes(control)));
+}
+
 struct Metrics {
     int height;
     int internalLeading;
