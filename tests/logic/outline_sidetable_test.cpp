@@ -4,6 +4,7 @@
 #include "tests/support/memory.h"
 #include "tests/support/outline_host.h"
 
+#include <algorithm>
 #include <gtest/gtest.h>
 #include <random>
 
