@@ -110,17 +110,17 @@ void Retired(void* context, OlbItem* item) {
 }
 
 void Cleared(void* context) {
-    DropAllItems(RecordIn(context).state);
+    Record& record = RecordIn(context);
+    DropAllItems(record.state);
+    ClearTable(record.sideTable);
 }
 
-// What a list box keeps of an item beside its text, its place and a value, an item's own record
-// keeps here: there is no table beside it that could run out of memory.
-bool RecordItem(void* /*context*/, OlbItem* /*item*/, std::uintptr_t /*value*/) {
-    return true;
+bool RecordItem(void* context, OlbItem* item, std::uintptr_t value) {
+    return EnterItem(RecordIn(context).sideTable, item, value);
 }
 
-std::uintptr_t ForgetItem(void* /*context*/, OlbItem* /*item*/) {
-    return 0;
+std::uintptr_t ForgetItem(void* context, OlbItem* item) {
+    return LeaveTable(RecordIn(context).sideTable, item);
 }
 
 } // namespace

@@ -1,0 +1,143 @@
+// The exported functions of the pictures of an outline list, and those that draw for parents which
+// draw the rows themselves.
+#include "core/color_win.h"
+#include "hierlist/list_handles_win.h"
+#include "hierlist/list_paint_win.h"
+#include "hierlist/list_view_win.h"
+
+namespace vorn::hierlist {
+namespace {
+
+constexpr int kLevels = static_cast<int>(kPictureLevels);
+
+bool IsLevel(const Record* record, int level) {
+    return record != nullptr && level >= 0 && level < kLevels;
+}
+
+// A number as one that an item's record holds.
+std::int16_t ToIndex(LONG index) {
+    return static_cast<std::int16_t>(index);
+}
+
+void RedrawItem(HWND window, const OlbItem* item) {
+    if (QueryVisible(item) == 1) {
+        RedrawRow(window, HandleToIndex(item));
+    }
+}
+
+// Replaces a picture strip, a bitmap or none.
+HBITMAP Exchange(void*& strip, HBITMAP bitmap) {
+    auto* before = static_cast<HBITMAP>(strip);
+    strip = bitmap;
+    return before;
+}
+
+} // namespace
+} // namespace vorn::hierlist
+
+using namespace vorn;
+using namespace vorn::hierlist;
+
+// ---- Strips ----
+
+extern "C" HBITMAP WINAPI olbSetBitmaps(HWND window, LONG row, HBITMAP bitmap) {
+    HOLBITEM handle = HandleAt(window, row);
+    return handle == nullptr && row != -1 ? nullptr : olbSetBitmapsEx(window, handle, bitmap);
+}
+
+extern "C" HBITMAP WINAPI olbSetBitmapsEx(HWND window, HOLBITEM handle, HBITMAP bitmap) {
+    Record* record = RecordOf<Record>(window);
+    if (record == nullptr) {
+        return nullptr;
+    }
+    OlbItem* item = ToItem(handle);
+    if (item == nullptr || item == NoItem()) {
+        HBITMAP before = Exchange(record->strips.user, bitmap);
+        RedrawRows(window);
+        return before;
+    }
+    if (!IsItem(item)) {
+        return nullptr;
+    }
+    HBITMAP before = Exchange(item->bitmaps, bitmap);
+    RedrawItem(window, item);
+    return before;
+}
+
+extern "C" void WINAPI olbSetLevelBitmap(HWND window, int level, HBITMAP bitmap) {
+    Record* record = RecordOf<Record>(window);
+    if (IsLevel(record, level)) {
+        const auto index = static_cast<std::size_t>(level);
+        DeleteObject(Exchange(record->strips.level[index], bitmap));
+        record->options.levelPicture[index] = kNoPicture;
+        RedrawRows(window);
+    }
+}
+
+// ---- Indexes ----
+
+extern "C" LONG WINAPI olbSetLevelIndex(HWND window, int level, LONG index) {
+    Record* record = RecordOf<Record>(window);
+    if (!IsLevel(record, level)) {
+        return LB_ERR;
+    }
+    std::int32_t& picture = record->options.levelPicture[static_cast<std::size_t>(level)];
+    const LONG before = picture;
+    picture = index;
+    RedrawRows(window);
+    return before;
+}
+
+extern "C" LONG WINAPI olbSetBitmapIndex(HWND window, LONG row, LONG index) {
+    HOLBITEM handle = HandleAt(window, row);
+    return handle == nullptr && row != -1 ? LB_ERR : olbSetBitmapIndexEx(window, handle, index);
+}
+
+extern "C" LONG WINAPI olbSetBitmapIndexEx(HWND window, HOLBITEM handle, LONG index) {
+    Record* record = RecordOf<Record>(window);
+    if (record == nullptr) {
+        return LB_ERR;
+    }
+    OlbItem* item = ToItem(handle);
+    if (item == nullptr || item == NoItem()) {
+        const LONG before = record->options.defaultPicture;
+        record->options.defaultPicture = index;
+        RedrawRows(window);
+        return before;
+    }
+    if (!IsItem(item)) {
+        return LB_ERR;
+    }
+    const LONG before = item->bitmapIndex;
+    SetBitmapIndex(record->outline, item, ToIndex(index));
+    RedrawItem(window, item);
+    return before;
+}
+
+// ---- Drawing for the parent ----
+
+extern "C" int WINAPI olbPaintBitmap(HWND window, HDC context, LONG row, const RECT* rect) {
+    const Record* record = RecordOf<Record>(window);
+    const OlbItem* item = record != nullptr ? ItemAt(*record, row) : nullptr;
+    if (rect == nullptr) {
+        return 0;
+    }
+    if (item == nullptr) {
+        return static_cast<int>(rect->left);
+    }
+    return PaintPicture(context, *record, item, FromPlatform(*rect), static_cast<int>(rect->left),
+                        ResolveColor(record->options.colors.background));
+}
+
+extern "C" void WINAPI olbPaintLines(HWND window, HDC context, LONG row, const RECT* rect) {
+    const Record* record = RecordOf<Record>(window);
+    const OlbItem* item = record != nullptr ? ItemAt(*record, row) : nullptr;
+    if (item == nullptr || rect == nullptr) {
+        return;
+    }
+    PaintLines(context, *record, item, FromPlatform(*rect));
+    if (HasOption(record->options, kOptionBoxes)) {
+        PaintBox(context, *record, item, FromPlatform(*rect),
+                 ResolveColor(record->options.colors.background));
+    }
+}
