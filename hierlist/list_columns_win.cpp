@@ -37,6 +37,7 @@ void BeginColumns(HWND window, LONG width) {
         record->options.wantsVerticalBar = false;
         record->options.columnWidth = width;
         record->topIndex = 0;
+        record->offset = 0;
     }
 }
 

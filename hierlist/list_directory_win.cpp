@@ -54,10 +54,11 @@ extern "C" LONG WINAPI olbDirEx(HWND window, DWORD attributes, LONG drive) {
     return row;
 }
 
+// A list of values takes the name for one and does not look at it.
 extern "C" LONG WINAPI olbAddFile(HWND window, LPCSTR name) {
     Record* record = RecordOf<Record>(window);
     if (record == nullptr || name == nullptr || HoldsValues(record->outline)) {
-        return LB_ERR;
+        return olbAddString(window, name);
     }
     const DWORD attributes = GetFileAttributesA(name);
     char kindName[kFileNameSize];

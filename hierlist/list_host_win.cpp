@@ -86,11 +86,19 @@ void RowsChanged(void* context) {
     UpdateBars(record.window);
 }
 
+// The outline knows of LBS_NOREDRAW and that a moved row is drawn in spite of it.
+void RedrawAnyway(HWND window) {
+    const Record* record = RecordOf<Record>(window);
+    if (record != nullptr && !record->redrawOff) {
+        vorn::Redraw(window);
+    }
+}
+
 void RedrawPart(void* context, vorn::hierlist::Redraw what, std::uint32_t row) {
     HWND window = RecordIn(context).window;
     switch (what) {
     case vorn::hierlist::Redraw::All:
-        RedrawRows(window);
+        RedrawAnyway(window);
         break;
     case vorn::hierlist::Redraw::FromRow:
         RedrawFromRow(window, row);

@@ -68,7 +68,10 @@ extern "C" void WINAPI olbSetLevelBitmap(HWND window, int level, HBITMAP bitmap)
     Record* record = RecordOf<Record>(window);
     if (IsLevel(record, level)) {
         const auto index = static_cast<std::size_t>(level);
-        DeleteObject(Exchange(record->strips.level[index], bitmap));
+        HBITMAP before = Exchange(record->strips.level[index], bitmap);
+        if (before != bitmap) {
+            DeleteObject(before);
+        }
         record->options.levelPicture[index] = kNoPicture;
         RedrawRows(window);
     }

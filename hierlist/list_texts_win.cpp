@@ -25,6 +25,19 @@ bool IsVariable(const Record& record) {
     return (record.outline.style & kStyleOwnerDrawVariable) != 0;
 }
 
+// Whether a height is that of all rows: the list has no other, or the call is about no item.
+bool IsOfAllRows(const Record& record, HOLBITEM handle) {
+    return handle == nullptr || handle == OLB_NOITEM || !IsVariable(record);
+}
+
+// Whether a row may be asked for its height: one that there is, -1 for all rows, or any when all
+// have the same.
+bool HasHeight(HWND window, LONG row) {
+    const Record* record = RecordOf<Record>(window);
+    return record != nullptr &&
+           (row == -1 || !IsVariable(*record) || ItemAt(*record, row) != nullptr);
+}
+
 std::int32_t ToPixels(LONG height) {
     return std::clamp<LONG>(height, 1, 65535);
 }
@@ -124,7 +137,7 @@ extern "C" LONG WINAPI olbSetItemDataEx(HWND window, HOLBITEM handle, LONG_PTR d
 // ---- Height ----
 
 extern "C" LONG WINAPI olbGetItemHeight(HWND window, LONG row) {
-    return olbGetItemHeightEx(window, OwnerAt(window, row));
+    return HasHeight(window, row) ? olbGetItemHeightEx(window, HandleAt(window, row)) : LB_ERR;
 }
 
 extern "C" LONG WINAPI olbGetItemHeightEx(HWND window, HOLBITEM handle) {
@@ -132,14 +145,15 @@ extern "C" LONG WINAPI olbGetItemHeightEx(HWND window, HOLBITEM handle) {
     if (record == nullptr) {
         return LB_ERR;
     }
-    if (handle == nullptr || !IsVariable(*record)) {
+    if (IsOfAllRows(*record, handle)) {
         return record->options.rowHeight;
     }
     return IsItem(ToItem(handle)) ? ToItem(handle)->height : LB_ERR;
 }
 
 extern "C" LONG WINAPI olbSetItemHeight(HWND window, LONG row, LONG height) {
-    return olbSetItemHeightEx(window, OwnerAt(window, row), height);
+    return HasHeight(window, row) ? olbSetItemHeightEx(window, HandleAt(window, row), height)
+                                  : LB_ERR;
 }
 
 extern "C" LONG WINAPI olbSetItemHeightEx(HWND window, HOLBITEM handle, LONG height) {
@@ -147,7 +161,7 @@ extern "C" LONG WINAPI olbSetItemHeightEx(HWND window, HOLBITEM handle, LONG hei
     if (record == nullptr) {
         return LB_ERR;
     }
-    if (handle == nullptr || !IsVariable(*record)) {
+    if (IsOfAllRows(*record, handle)) {
         record->options.rowHeight = ToPixels(height);
         record->options.hasOwnRowHeight = true;
     } else if (IsItem(ToItem(handle))) {

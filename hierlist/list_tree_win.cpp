@@ -136,7 +136,7 @@ extern "C" LONG WINAPI olbHandleToIndex(HOLBITEM item) {
 }
 
 extern "C" HOLBITEM WINAPI olbIndexToHandle(HWND window, LONG row) {
-    return HandleAt(window, row);
+    return RecordOf<Record>(window) == nullptr ? OLB_NOITEM : HandleAt(window, row);
 }
 
 extern "C" LONG WINAPI olbGetCount(HWND window) {

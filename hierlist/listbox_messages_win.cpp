@@ -1,4 +1,5 @@
 // The messages of a list box, LB_ADDSTRING to LB_FINDSTRINGEXACT, answered by the list's functions.
+// Those without a function, and later ones up to LB_ITEMFROMPOINT, are answered with LB_ERR.
 #include "core/window_win.h"
 #include "hierlist/list_handles_win.h"
 #include "hierlist/list_messages_win.h"
@@ -160,7 +161,7 @@ bool AnswerView(HWND window, UINT message, WPARAM wParam, LPARAM lParam, LRESULT
 
 bool AnswerListBoxMessage(HWND window, UINT message, WPARAM wParam, LPARAM lParam,
                           LRESULT& result) {
-    if (message < LB_ADDSTRING || message > LB_FINDSTRINGEXACT) {
+    if (message < LB_ADDSTRING || message > LB_ITEMFROMPOINT) {
         return false;
     }
     if (!AnswerContents(window, message, wParam, lParam, result) &&
