@@ -32,14 +32,18 @@ LONG_PTR Number(LONG_PTR number) {
 }
 
 #define CALL(expected, function, ...)                                                              \
-    {#function, expected, [](HWND window) -> LONG_PTR {                                            \
-         return Number(function(window __VA_OPT__(, ) __VA_ARGS__));                               \
-     }}
+    {                                                                                              \
+#function, expected,                                                                       \
+            [](HWND window)                                                                        \
+                 -> LONG_PTR { return Number(function(window __VA_OPT__(, ) __VA_ARGS__)); }       \
+    }
 #define PERFORM(function, ...)                                                                     \
-    {#function, 0, [](HWND window) -> LONG_PTR {                                                   \
+    {                                                                                              \
+#function, 0, [](HWND window) -> LONG_PTR {                                                   \
          function(window __VA_OPT__(, ) __VA_ARGS__);                                              \
          return 0;                                                                                 \
-     }}
+     }    \
+    }
 
 const Call kCalls[] = {
     CALL(-1, olbAddString, kText),
