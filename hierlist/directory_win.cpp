@@ -12,7 +12,9 @@ static_assert(kFileSystem == FILE_ATTRIBUTE_SYSTEM && kFileArchive == FILE_ATTRI
 static_assert(kFileDirectory == FILE_ATTRIBUTE_DIRECTORY);
 static_assert(kFileNameSize == MAX_PATH);
 
-// The bit of a reparse tag that says that the folder stands for another one.
+// The bits of a reparse tag that say that it is one of the platform's own, and that the folder
+// stands for another one.
+constexpr DWORD kPlatformTag = 0x80000000;
 constexpr DWORD kNameSurrogate = 0x20000000;
 
 // No message of the system's about a drive without a disk.
@@ -56,9 +58,9 @@ char CurrentDrive(void* /*context*/) {
 void Take(FileEntry& entry, const WIN32_FIND_DATAA& found) {
     lstrcpynA(entry.name, found.cFileName, sizeof entry.name);
     entry.attributes = found.dwFileAttributes;
-    // A tag that is not told is taken for that of a link.
+    // A tag that is not told, or is not the platform's, is taken for that of a link.
     entry.isLink = (found.dwFileAttributes & FILE_ATTRIBUTE_REPARSE_POINT) != 0 &&
-                   (found.dwReserved0 == 0 || (found.dwReserved0 & kNameSurrogate) != 0);
+                   (found.dwReserved0 & (kPlatformTag | kNameSurrogate)) != kPlatformTag;
 }
 
 void* FindFirst(void* /*context*/, const char* specification, FileEntry& entry) {
