@@ -1,5 +1,4 @@
 // The exported functions of what the items of an outline list hold: text, data, height, path.
-#include "core/window_win.h"
 #include "hierlist/list_handles_win.h"
 #include "hierlist/list_host_win.h"
 #include "hierlist/list_scroll_win.h"
@@ -98,7 +97,6 @@ extern "C" LONG WINAPI olbSetItemTextEx(HWND window, HOLBITEM handle, LPCSTR tex
         return LB_ERR;
     }
     if (!SetText(RecordOf<Record>(window)->outline, item, text)) {
-        NotifyParent(window, static_cast<WORD>(LBN_ERRSPACE));
         return LB_ERR;
     }
     if (QueryVisible(item) == 1) {
