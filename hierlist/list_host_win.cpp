@@ -90,6 +90,14 @@ void RowsChanged(void* context) {
     }
 }
 
+// The outline knows of LBS_NOREDRAW and that a moved row is drawn in spite of it.
+void RedrawAnyway(HWND window) {
+    const Record* record = RecordOf<Record>(window);
+    if (record != nullptr && !record->redrawOff) {
+        vorn::Redraw(window);
+    }
+}
+
 void RedrawPart(void* context, vorn::hierlist::Redraw what, std::uint32_t row) {
     const Record& record = RecordIn(context);
     if (!IsDrawingOn(record)) {
@@ -98,7 +106,7 @@ void RedrawPart(void* context, vorn::hierlist::Redraw what, std::uint32_t row) {
     HWND window = record.window;
     switch (what) {
     case vorn::hierlist::Redraw::All:
-        RedrawRows(window);
+        RedrawAnyway(window);
         break;
     case vorn::hierlist::Redraw::FromRow:
         RedrawFromRow(window, row);
@@ -118,17 +126,17 @@ void Retired(void* context, OlbItem* item) {
 }
 
 void Cleared(void* context) {
-    DropAllItems(RecordIn(context).state);
+    Record& record = RecordIn(context);
+    DropAllItems(record.state);
+    ClearTable(record.sideTable);
 }
 
-// What a list box keeps of an item beside its text, its place and a value, an item's own record
-// keeps here: there is no table beside it that could run out of memory.
-bool RecordItem(void* /*context*/, OlbItem* /*item*/, std::uintptr_t /*value*/) {
-    return true;
+bool RecordItem(void* context, OlbItem* item, std::uintptr_t value) {
+    return EnterItem(RecordIn(context).sideTable, item, value);
 }
 
-std::uintptr_t ForgetItem(void* /*context*/, OlbItem* /*item*/) {
-    return 0;
+std::uintptr_t ForgetItem(void* context, OlbItem* item) {
+    return LeaveTable(RecordIn(context).sideTable, item);
 }
 
 } // namespace

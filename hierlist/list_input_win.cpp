@@ -36,8 +36,6 @@ std::uint32_t HeldModifiers() {
 
 // ---- Doing what the steps answer ----
 
-void PerformAll(HWND window, const Actions& actions);
-
 void TurnPage(HWND window, std::uint32_t key, std::uint32_t modifiers) {
     const std::uint32_t topBefore = RecordOf<Record>(window)->topIndex;
     SendMessageA(window, WM_VSCROLL, key == kKeyPageDown ? SB_PAGEDOWN : SB_PAGEUP, 0);
@@ -123,11 +121,6 @@ void Perform(HWND window, const Action& action) {
         FocusTabItem(window, true);
         break;
     }
-}
-
-void PerformAll(HWND window, const Actions& actions) {
-    PerformActions<Record>(window, actions,
-                           [window](const Action& action) { Perform(window, action); });
 }
 
 // ---- Keyboard ----
@@ -249,6 +242,11 @@ LRESULT OnFocus(HWND window, bool gained) {
 }
 
 } // namespace
+
+void PerformAll(HWND window, const Actions& actions) {
+    PerformActions<Record>(window, actions,
+                           [window](const Action& action) { Perform(window, action); });
+}
 
 bool IsInputMessage(UINT message) {
     switch (message) {

@@ -2,6 +2,7 @@
 #pragma once
 
 #include "core/platform_win.h"
+#include "hierlist/list_input.h"
 
 namespace vorn::hierlist {
 
@@ -9,5 +10,8 @@ bool IsInputMessage(UINT message);
 
 // Host code runs: the control may be gone afterwards.
 LRESULT OnInputMessage(HWND window, UINT message, WPARAM wParam, LPARAM lParam);
+
+// Does what a step answered, in order, as long as the control is there. Host code runs.
+void PerformAll(HWND window, const Actions& actions);
 
 } // namespace vorn::hierlist

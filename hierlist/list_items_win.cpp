@@ -1,30 +1,10 @@
-// The exported functions that put items into an outline list and open and close them.
-#include "hierlist/list_record_win.h"
-
-#include <vorn32/hierlist.h>
-
-namespace vorn::hierlist {
-namespace {
-
-OlbItem* ToItem(HOLBITEM handle) {
-    return reinterpret_cast<OlbItem*>(handle);
-}
-
-HOLBITEM ToHandle(OlbItem* item) {
-    return reinterpret_cast<HOLBITEM>(item);
-}
-
-// Adds a child, at the top level for none. Returns its row, of a hidden one the position among its
-// siblings.
-LONG AddRow(Record& record, OlbItem* parent, const char* text) {
-    return static_cast<LONG>(HandleToIndex(AddChild(record.outline, parent, text)));
-}
-
-} // namespace
-} // namespace vorn::hierlist
+// The exported functions that put items into an outline list, take them out, move and copy them.
+#include "hierlist/list_handles_win.h"
 
 using namespace vorn;
 using namespace vorn::hierlist;
+
+// ---- Adding ----
 
 extern "C" LONG WINAPI olbAddString(HWND window, LPCSTR text) {
     Record* record = RecordOf<Record>(window);
@@ -32,12 +12,7 @@ extern "C" LONG WINAPI olbAddString(HWND window, LPCSTR text) {
 }
 
 extern "C" LONG WINAPI olbAddChildString(HWND window, LONG parent, LPCSTR text) {
-    Record* record = RecordOf<Record>(window);
-    if (record == nullptr) {
-        return LB_ERR;
-    }
-    OlbItem* owner = IndexToHandle(record->outline, static_cast<std::uint32_t>(parent));
-    return AddRow(*record, owner, text);
+    return RowOfHandle(olbAddChildStringEx(window, HandleAt(window, parent), text));
 }
 
 extern "C" HOLBITEM WINAPI olbAddChildStringEx(HWND window, HOLBITEM parent, LPCSTR text) {
@@ -46,16 +21,100 @@ extern "C" HOLBITEM WINAPI olbAddChildStringEx(HWND window, HOLBITEM parent, LPC
                              : ToHandle(AddChild(record->outline, ToItem(parent), text));
 }
 
-extern "C" void WINAPI olbOpenItem(HWND window, LONG row) {
+extern "C" LONG WINAPI olbInsertString(HWND window, LONG row, LPCSTR text) {
+    Record* record = RecordOf<Record>(window);
+    if (record == nullptr) {
+        return LB_ERR;
+    }
+    return ToRow(
+        HandleToIndex(InsertAtRow(record->outline, static_cast<std::uint32_t>(row), text)));
+}
+
+extern "C" HOLBITEM WINAPI olbInsertStringEx(HWND window, HOLBITEM parent, WORD position,
+                                             LPCSTR text) {
+    Record* record = RecordOf<Record>(window);
+    return record == nullptr
+               ? OLB_NOITEM
+               : ToHandle(InsertChild(record->outline, ToItem(parent), position, text));
+}
+
+// ---- Removing ----
+
+extern "C" LONG WINAPI olbDeleteString(HWND window, LONG row) {
+    return olbDeleteStringEx(window, HandleAt(window, row));
+}
+
+extern "C" LONG WINAPI olbDeleteStringEx(HWND window, HOLBITEM item) {
+    Record* record = RecordOf<Record>(window);
+    return record == nullptr ? LB_ERR : ToRow(DeleteItem(record->outline, ToItem(item)));
+}
+
+extern "C" LONG WINAPI olbDeleteSubTree(HWND window, LONG row) {
+    return olbDeleteSubTreeEx(window, HandleAt(window, row));
+}
+
+extern "C" LONG WINAPI olbDeleteSubTreeEx(HWND window, HOLBITEM item) {
+    Record* record = RecordOf<Record>(window);
+    return record == nullptr ? LB_ERR : DeleteSubtree(record->outline, ToItem(item));
+}
+
+extern "C" void WINAPI olbResetContent(HWND window) {
     Record* record = RecordOf<Record>(window);
     if (record != nullptr) {
-        Open(record->outline, static_cast<std::uint32_t>(row));
+        Reset(record->outline);
     }
 }
 
-extern "C" void WINAPI olbCloseItem(HWND window, LONG row) {
+// ---- Moving and copying ----
+
+extern "C" LONG WINAPI olbMoveItem(HWND window, LONG row, LONG newParent, WORD position) {
+    return RowOfHandle(
+        olbMoveItemEx(window, HandleAt(window, row), OwnerAt(window, newParent), position));
+}
+
+extern "C" HOLBITEM WINAPI olbMoveItemEx(HWND window, HOLBITEM item, HOLBITEM newParent,
+                                         WORD position) {
     Record* record = RecordOf<Record>(window);
-    if (record != nullptr) {
-        Close(record->outline, static_cast<std::uint32_t>(row));
-    }
+    return record == nullptr
+               ? OLB_NOITEM
+               : ToHandle(MoveItem(record->outline, ToItem(item), ToItem(newParent), position));
+}
+
+extern "C" LONG WINAPI olbMoveChildren(HWND window, LONG from, LONG to, WORD position) {
+    return RowOfHandle(
+        olbMoveChildrenEx(window, HandleAt(window, from), OwnerAt(window, to), position));
+}
+
+extern "C" HOLBITEM WINAPI olbMoveChildrenEx(HWND window, HOLBITEM from, HOLBITEM to,
+                                             WORD position) {
+    Record* record = RecordOf<Record>(window);
+    return record == nullptr
+               ? OLB_NOITEM
+               : ToHandle(MoveChildren(record->outline, ToItem(from), ToItem(to), position));
+}
+
+extern "C" LONG WINAPI olbCopyItem(HWND window, LONG row, LONG newParent, WORD position) {
+    return RowOfHandle(
+        olbCopyItemEx(window, HandleAt(window, row), OwnerAt(window, newParent), position));
+}
+
+extern "C" HOLBITEM WINAPI olbCopyItemEx(HWND window, HOLBITEM item, HOLBITEM newParent,
+                                         WORD position) {
+    Record* record = RecordOf<Record>(window);
+    return record == nullptr
+               ? OLB_NOITEM
+               : ToHandle(CopyItem(record->outline, ToItem(item), ToItem(newParent), position));
+}
+
+extern "C" LONG WINAPI olbCopyChildren(HWND window, LONG from, LONG to, WORD position) {
+    return RowOfHandle(
+        olbCopyChildrenEx(window, HandleAt(window, from), OwnerAt(window, to), position));
+}
+
+extern "C" HOLBITEM WINAPI olbCopyChildrenEx(HWND window, HOLBITEM from, HOLBITEM to,
+                                             WORD position) {
+    Record* record = RecordOf<Record>(window);
+    return record == nullptr
+               ? OLB_NOITEM
+               : ToHandle(CopyChildren(record->outline, ToItem(from), ToItem(to), position));
 }

@@ -1,12 +1,10 @@
-// The exported functions that say how an outline list looks.
-#include "core/color_win.h"
+// The exported functions that say how an outline list looks and works.
 #include "core/window_win.h"
 #include "hierlist/list_border_win.h"
-#include "hierlist/list_paint_win.h"
+#include "hierlist/list_handles_win.h"
+#include "hierlist/list_host_win.h"
+#include "hierlist/list_scroll_win.h"
 #include "hierlist/list_view_win.h"
-#include "hierlist/row_spans.h"
-
-#include <vorn32/hierlist.h>
 
 namespace vorn::hierlist {
 namespace {
@@ -35,21 +33,30 @@ bool IsSlot(int number) {
     return false;
 }
 
-// A number as one that an item's record holds.
-std::int16_t ToIndex(LONG index) {
-    return static_cast<std::int16_t>(index);
+// Flags that hosts see among the options and that are kept where they are used.
+constexpr std::uint8_t kOptionAutoOpen = 2;
+constexpr std::uint8_t kOptionHasFocus = 32;
+constexpr std::uint8_t kOptionCaptured = 64;
+constexpr std::uint8_t kFlagsKeptElsewhere = kOptionAutoOpen | kOptionHasFocus | kOptionCaptured;
+
+std::uint8_t FlagsOf(const Record& record) {
+    const unsigned autoOpen = record.outline.autoOpen ? kOptionAutoOpen : 0u;
+    return static_cast<std::uint8_t>(record.options.flags | autoOpen);
 }
 
-const OlbItem* ItemAt(const Record& record, LONG row) {
-    return IndexToHandle(record.outline, static_cast<std::uint32_t>(row));
+// Has the frame reckoned anew, scroll bars included, and all of it repainted.
+void RenewFrame(HWND window) {
+    SetWindowPos(window, nullptr, 0, 0, 0, 0,
+                 SWP_NOSIZE | SWP_NOMOVE | SWP_NOZORDER | SWP_NOACTIVATE | SWP_FRAMECHANGED);
+    UpdateBars(window);
+    RedrawRows(window);
 }
 
-// What a part of a row is painted with for a parent, which has painted the ground: pictures are
-// laid on the colour that is at the point.
-RowTools ToolsFor(HDC context, const Record& record, Point point) {
-    const COLORREF there = GetPixel(context, point.x, point.y);
-    const COLORREF background = ResolveColor(record.options.colors.background);
-    return {context, record, {nullptr, there != CLR_INVALID ? there : background}};
+LONG OwnerDrawMode(DWORD style) {
+    if ((style & kStyleOwnerDrawFixed) != 0) {
+        return 1;
+    }
+    return (style & kStyleOwnerDrawVariable) != 0 ? 2 : 0;
 }
 
 } // namespace
@@ -100,26 +107,6 @@ extern "C" LONG WINAPI olbGetIndent(HWND window) {
     return record == nullptr ? LB_ERR : record->options.indent;
 }
 
-extern "C" LONG WINAPI olbSetBitmapIndexEx(HWND window, HOLBITEM item, LONG index) {
-    Record* record = RecordOf<Record>(window);
-    if (record == nullptr) {
-        return LB_ERR;
-    }
-    auto* target = reinterpret_cast<OlbItem*>(item);
-    if (target == nullptr || target == NoItem()) {
-        const LONG before = record->options.defaultPicture;
-        record->options.defaultPicture = index;
-        RedrawRows(window);
-        return before;
-    }
-    const LONG before = target->bitmapIndex;
-    SetBitmapIndex(record->outline, target, ToIndex(index));
-    if (QueryVisible(target) == 1) {
-        RedrawRow(window, HandleToIndex(target));
-    }
-    return before;
-}
-
 extern "C" DWORD WINAPI olbSetColor(HWND window, int part, COLORREF colorCode, BOOL redraw) {
     Record* record = RecordOf<Record>(window);
     if (record == nullptr) {
@@ -146,35 +133,72 @@ extern "C" LONG WINAPI olbGetBorderStyle(HWND window) {
     return record == nullptr ? LB_ERR : static_cast<LONG>(record->options.border);
 }
 
-extern "C" int WINAPI olbPaintBitmap(HWND window, HDC context, LONG row, const RECT* place) {
+// ---- Options and style ----
+
+extern "C" BOOL WINAPI olbSetAutoOpen(HWND window, BOOL on) {
     Record* record = RecordOf<Record>(window);
-    const OlbItem* item = record == nullptr ? nullptr : ItemAt(*record, row);
-    if (item == nullptr || place == nullptr) {
-        return LB_ERR;
+    if (record == nullptr) {
+        return FALSE;
     }
-    const Rect rect = FromPlatform(*place);
-    const int left = rect.left + ContentStart(record->options, item->level);
-    if (!ShowsPictures(record->options)) {
-        return left;
-    }
-    return PaintPicture(ToolsFor(context, *record, {left, rect.top}), item, rect, left);
+    const bool before = record->outline.autoOpen;
+    record->outline.autoOpen = on != 0;
+    return before;
 }
 
-extern "C" BOOL WINAPI olbPaintLines(HWND window, HDC context, LONG row, const RECT* place) {
+extern "C" BOOL WINAPI olbIsAutoOpen(HWND window) {
+    const Record* record = RecordOf<Record>(window);
+    return record != nullptr && record->outline.autoOpen;
+}
+
+extern "C" LONG WINAPI olbSetProportionalScrollBars(HWND window, BOOL on) {
+    const LONG before = SetOption(window, kOptionProportionalBars, on != 0);
+    if (RecordOf<Record>(window) != nullptr) {
+        RenewFrame(window);
+    }
+    return before;
+}
+
+extern "C" WORD WINAPI olbSetFlags(HWND window, WORD kept, WORD added) {
     Record* record = RecordOf<Record>(window);
-    const OlbItem* item = record == nullptr ? nullptr : ItemAt(*record, row);
-    if (item == nullptr || place == nullptr) {
+    if (record == nullptr) {
         return 0;
     }
-    const Rect rect = FromPlatform(*place);
-    RowTools tools = ToolsFor(context, *record, {rect.left, rect.top});
-    tools.lines = MakeLinePen(*record);
-    if (tools.lines != nullptr) {
-        PaintLines(tools, item, rect);
-        DeleteObject(tools.lines);
+    const auto flags = static_cast<std::uint8_t>((FlagsOf(*record) & kept) | added);
+    record->options.flags = flags & static_cast<std::uint8_t>(~kFlagsKeptElsewhere);
+    record->outline.autoOpen = (flags & kOptionAutoOpen) != 0;
+    RedrawRows(window);
+    return added;
+}
+
+extern "C" void WINAPI olbChangeStyle(HWND window, WORD style) {
+    if (RecordOf<Record>(window) != nullptr) {
+        ChangeStyle(window, 0xFFFF, style);
+        RenewFrame(window);
     }
-    if (HasOption(record->options, kOptionBoxes)) {
-        PaintBox(tools, item, rect);
+}
+
+extern "C" LONG WINAPI olbSetOwnerDraw(HWND window, int mode) {
+    if (RecordOf<Record>(window) == nullptr) {
+        return LB_ERR;
     }
-    return 1;
+    const LONG before = OwnerDrawMode(StyleOf(window));
+    const DWORD bit = mode == 1 ? kStyleOwnerDrawFixed : mode == 2 ? kStyleOwnerDrawVariable : 0;
+    ChangeStyle(window, kStyleOwnerDraw, bit);
+    if (mode == 1) {
+        AskRowHeight(window);
+    }
+    UpdateBars(window);
+    RedrawRows(window);
+    return before;
+}
+
+extern "C" LONG WINAPI olbSetCompatibilityMode(HWND window, BOOL on) {
+    Record* record = RecordOf<Record>(window);
+    if (record == nullptr) {
+        return LB_ERR;
+    }
+    const LONG before = record->outline.compatibilityMode;
+    record->outline.compatibilityMode = on != 0 ? 1 : 0;
+    Reset(record->outline);
+    return before;
 }

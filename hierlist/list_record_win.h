@@ -10,6 +10,7 @@
 #include "hierlist/picture_choice.h"
 #include "hierlist/prepared_pictures_win.h"
 #include "hierlist/scroll_range.h"
+#include "hierlist/sidetable.h"
 #include "hierlist/tab_stops.h"
 
 #include <array>
@@ -21,6 +22,7 @@ struct Record {
 
     HWND window = nullptr;
     Outline outline;
+    SideTable sideTable; // of compatibility mode
     ListOptions options;
     Strips strips;                  // those of levels and of the host are the control's to free
     std::array<HBITMAP, 2> boxes{}; // of a closed and of an open item

@@ -5,6 +5,7 @@
 #include "hierlist/list_font_win.h"
 #include "hierlist/list_host_win.h"
 #include "hierlist/list_input_win.h"
+#include "hierlist/list_messages_win.h"
 #include "hierlist/list_paint_win.h"
 #include "hierlist/list_scroll_win.h"
 #include "hierlist/list_view_win.h"
@@ -73,6 +74,7 @@ void OnNcDestroy(HWND window) {
         return;
     }
     Destroy(record->outline);
+    ClearTable(record->sideTable);
     for (void* strip : record->strips.level) {
         DeleteObject(strip);
     }
@@ -198,7 +200,13 @@ extern "C" LRESULT CALLBACK VORNHierListWinFn(HWND window, UINT message, WPARAM 
         OnStyleChanged(window, wParam);
         return 0;
     default:
-        return IsInputMessage(message) ? OnInputMessage(window, message, wParam, lParam)
-                                       : OnDrawingMessage(window, message, wParam, lParam);
+        break;
     }
+    LRESULT result = 0;
+    if (AnswerListBoxMessage(window, message, wParam, lParam, result) ||
+        AnswerOwnMessage(window, message, wParam, lParam, result)) {
+        return result;
+    }
+    return IsInputMessage(message) ? OnInputMessage(window, message, wParam, lParam)
+                                   : OnDrawingMessage(window, message, wParam, lParam);
 }
