@@ -11,6 +11,11 @@ namespace bench {
 void Compare(const char* what, int calls, const std::function<void()>& ours,
              const std::function<void()>& theirs);
 
+// The same one call at a time, with something to be done before each that is not counted.
+void CompareAfter(const char* what, const std::function<void()>& prepareOurs,
+                  const std::function<void()>& ours, const std::function<void()>& prepareTheirs,
+                  const std::function<void()>& theirs);
+
 // Prints one row: microseconds a call of ours, where there is nothing to set beside it.
 void Measure(const char* what, int calls, const std::function<void()>& ours);
 
@@ -46,5 +51,6 @@ void MeasureCalendar();
 void MeasurePercentBar();
 void MeasureFontSelect();
 void MeasureOutline();
+void MeasureOutlineItems();
 
 } // namespace bench
