@@ -83,11 +83,19 @@ void ErrorSpace(void* context) {
 void RowsChanged(void* context) {
     Record& record = RecordIn(context);
     ForgetColumns(record);
-    UpdateBars(record.window);
+    if (record.redrawOff) {
+        record.barsStale = true; // as UpdateBars does, for hosts that add very many
+    } else {
+        UpdateBars(record.window);
+    }
 }
 
 void RedrawPart(void* context, vorn::hierlist::Redraw what, std::uint32_t row) {
-    HWND window = RecordIn(context).window;
+    const Record& record = RecordIn(context);
+    if (record.redrawOff) {
+        return;
+    }
+    HWND window = record.window;
     switch (what) {
     case vorn::hierlist::Redraw::All:
         RedrawRows(window);

@@ -74,12 +74,12 @@ void Compare(const char* what, int calls, const std::function<void()>& ours,
     PrintComparison(what, ourTimes, theirTimes);
 }
 
-void CompareAfter(const char* what, const std::function<void()>& prepareOurs,
+void CompareAfter(const char* what, int rounds, const std::function<void()>& prepareOurs,
                   const std::function<void()>& ours, const std::function<void()>& prepareTheirs,
                   const std::function<void()>& theirs) {
     std::vector<double> ourTimes;
     std::vector<double> theirTimes;
-    for (int round = 0; round < kRounds; ++round) {
+    for (int round = 0; round < rounds; ++round) {
         prepareOurs();
         ourTimes.push_back(Microseconds(ours));
         prepareTheirs();

@@ -11,8 +11,8 @@ namespace bench {
 void Compare(const char* what, int calls, const std::function<void()>& ours,
              const std::function<void()>& theirs);
 
-// The same one call at a time, with something to be done before each that is not counted.
-void CompareAfter(const char* what, const std::function<void()>& prepareOurs,
+// The same one call a round, with something to be done before each that is not counted.
+void CompareAfter(const char* what, int rounds, const std::function<void()>& prepareOurs,
                   const std::function<void()>& ours, const std::function<void()>& prepareTheirs,
                   const std::function<void()>& theirs);
 
