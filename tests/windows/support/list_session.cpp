@@ -64,7 +64,7 @@ ListSession::ListSession(const char* className, DWORD style) : style_(style) {
         SendMessageW(list_, LB_SETITEMHEIGHT, 0, kRowHeight);
     }
     PumpMessages();
-    WriteDown("created", list_ != nullptr ? "yes" : "no");
+    news_.clear();
 }
 
 std::optional<LRESULT> ListSession::Answer(const Message& message) {
@@ -74,7 +74,7 @@ std::optional<LRESULT> ListSession::Answer(const Message& message) {
         return std::nullopt;
     case WM_MEASUREITEM: {
         auto& item = *reinterpret_cast<MEASUREITEMSTRUCT*>(message.lParam);
-        news_ += Line(", measure", item.CtlType, item.CtlID, static_cast<int>(item.itemID));
+        news_ += Line(", measure", item.CtlType, item.CtlID, static_cast<SHORT>(item.itemID));
         item.itemHeight = kRowHeight;
         return TRUE;
     }
@@ -95,6 +95,22 @@ std::optional<LRESULT> ListSession::Answer(const Message& message) {
 }
 
 // ---- Steps ----
+
+void ListSession::Fill(const std::vector<const wchar_t*>& texts) {
+    std::string answers;
+    SendMessageW(list_, WM_SETREDRAW, FALSE, 0);
+    for (const wchar_t* text : texts) {
+        answers += Line("", SendMessageW(list_, LB_ADDSTRING, 0, ToData(text)));
+    }
+    SendMessageW(list_, WM_SETREDRAW, TRUE, 0);
+    RedrawWindow(list_, nullptr, nullptr, RDW_INVALIDATE | RDW_UPDATENOW);
+    WriteDown("filled", answers);
+}
+
+void ListSession::Do(const char* name, UINT message, WPARAM wParam, LPARAM lParam) {
+    SendMessageW(list_, message, wParam, lParam);
+    WriteDown(Line(name, static_cast<int>(wParam), lParam), "");
+}
 
 void ListSession::Send(const char* name, UINT message, WPARAM wParam, LPARAM lParam) {
     const LRESULT answer = SendMessageW(list_, message, wParam, lParam);
@@ -166,6 +182,16 @@ void ListSession::TakeFocus(bool take) {
     WriteDown(take ? "take the focus" : "leave the focus", "");
 }
 
+void ListSession::Note(const char* name, LRESULT answer) {
+    WriteDown(name, Line(answer));
+}
+
+void ListSession::WithoutCaret(const std::function<void()>& steps) {
+    writesCaret_ = false;
+    steps();
+    writesCaret_ = true;
+}
+
 // ---- Writing down ----
 
 void ListSession::WriteDown(const std::string& step, const std::string& answer) {
@@ -199,8 +225,8 @@ std::string ListSession::View() const {
     for (int row = 0; row < count; ++row) {
         selected += Ask(LB_GETSEL, row) > 0 ? Line("", row) : "";
     }
-    return Line("selected" + selected + ", caret", Ask(LB_GETCARETINDEX), "anchor",
-                Ask(LB_GETANCHORINDEX), "top", Ask(LB_GETTOPINDEX));
+    const std::string caret = writesCaret_ ? Line(", caret", Ask(LB_GETCARETINDEX)) : "";
+    return Line("selected" + selected + caret + ", top", Ask(LB_GETTOPINDEX));
 }
 
 bool ListSession::HasTexts() const {
@@ -211,6 +237,31 @@ bool ListSession::HasTexts() const {
 // Without texts an item is its data, which must not be an address that differs.
 LPARAM ListSession::ToData(const wchar_t* text) const {
     return HasTexts() ? reinterpret_cast<LPARAM>(text) : static_cast<LPARAM>(text[0]);
+}
+
+std::vector<Outcome> HoldListSession(const char* className, DWORD style,
+                                     const std::function<void(ListSession&)>& script) {
+    ListSession session(className, style | LBS_NOTIFY | LBS_NOINTEGRALHEIGHT | LBS_USETABSTOPS |
+                                       WS_VSCROLL);
+    script(session);
+    return session.outcomes();
+}
+
+const std::vector<DWORD> kSelectionStyles = {0, LBS_MULTIPLESEL, LBS_EXTENDEDSEL,
+                                             LBS_MULTIPLESEL | LBS_EXTENDEDSEL};
+
+std::vector<DWORD> AllListStyles() {
+    std::vector<DWORD> styles;
+    for (const DWORD selection : kSelectionStyles) {
+        for (const DWORD items :
+             {DWORD{0}, DWORD{LBS_SORT}, DWORD{LBS_OWNERDRAWFIXED | LBS_HASSTRINGS},
+              DWORD{LBS_OWNERDRAWFIXED | LBS_HASSTRINGS | LBS_SORT}, DWORD{LBS_OWNERDRAWFIXED},
+              DWORD{LBS_OWNERDRAWFIXED | LBS_SORT}, DWORD{LBS_OWNERDRAWVARIABLE | LBS_HASSTRINGS},
+              DWORD{LBS_OWNERDRAWVARIABLE | LBS_SORT}}) {
+            styles.push_back(selection | items);
+        }
+    }
+    return styles;
 }
 
 } // namespace vorn::test

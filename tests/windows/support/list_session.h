@@ -12,10 +12,10 @@ namespace vorn::test {
 
 // What one step of a session led to.
 struct Outcome {
-    std::string step;    // what was done, such as "LB_DELETESTRING 2"
-    std::string answer;  // what the list answered, and what its parent was sent meanwhile
+    std::string step;     // what was done, such as "LB_DELETESTRING 2"
+    std::string answer;   // what the list answered, and what its parent was sent meanwhile
     std::string contents; // the items then
-    std::string view;     // the selection, the caret, the anchor and the first row in view then
+    std::string view;     // the selected rows, the caret and the first row in view then
 };
 
 class ListSession {
@@ -24,6 +24,12 @@ public:
     ListSession(const char* className, DWORD style);
 
     HWND list() const { return list_; }
+
+    // Adds texts, painted when all are there.
+    void Fill(const std::vector<const wchar_t*>& texts);
+
+    // Sends a message and writes down what it led to, but not the answer.
+    void Do(const char* name, UINT message, WPARAM wParam = 0, LPARAM lParam = 0);
 
     // Sends a message, with a text, with numbers, or with room for what the list writes.
     void Send(const char* name, UINT message, WPARAM wParam = 0, LPARAM lParam = 0);
@@ -39,6 +45,12 @@ public:
     void DoubleClick(int row);
     void TakeFocus(bool take);
 
+    // Writes an answer down that the test has got itself.
+    void Note(const char* name, LRESULT answer);
+
+    // Does steps without writing the caret down, where it is not what they are about.
+    void WithoutCaret(const std::function<void()>& steps);
+
     const std::vector<Outcome>& outcomes() const { return outcomes_; }
 
 private:
@@ -53,8 +65,20 @@ private:
     HostWindow host_;
     HWND list_ = nullptr;
     DWORD style_;
+    bool writesCaret_ = true;
     std::string news_; // what the parent was sent since the last step
     std::vector<Outcome> outcomes_;
 };
+
+// Holds the session with a list box of this class and style; every one notifies, scrolls vertically
+// and has tab stops.
+std::vector<Outcome> HoldListSession(const char* className, DWORD style,
+                                     const std::function<void(ListSession&)>& script);
+
+// Single, multiple and extended selection.
+extern const std::vector<DWORD> kSelectionStyles;
+
+// Each with plain items, sorted ones, and ones that the parent draws, with and without texts.
+std::vector<DWORD> AllListStyles();
 
 } // namespace vorn::test
