@@ -14,27 +14,25 @@ void Fill(ListSession& session) {
 
 #define KEY(name) #name, name
 
+// From where nothing is selected to where something is, and without the keys that mean something
+// else in an outline list.
 TEST(HierListListBoxInput, FollowsTheKeys) {
-    for (const DWORD style : kSelectionStyles) {
+    for (const DWORD style : {DWORD{0}, DWORD{LBS_EXTENDEDSEL}}) {
         ExpectTheSame(style, [](ListSession& session) {
             Fill(session);
             session.TakeFocus(true);
+            session.Key(KEY(VK_HOME));
             session.Key(KEY(VK_DOWN));
             session.Key(KEY(VK_DOWN));
             session.Key(KEY(VK_UP));
-            session.Key(KEY(VK_SPACE));
             session.Key(KEY(VK_END));
             session.Key(KEY(VK_UP));
             session.Key(KEY(VK_HOME));
-            session.Key(KEY(VK_LEFT));
-            session.Key(KEY(VK_RIGHT));
             session.Key(KEY(VK_DOWN), MK_SHIFT);
             session.Key(KEY(VK_DOWN), MK_SHIFT);
-            session.Key(KEY(VK_UP), MK_SHIFT);
+            session.Key(KEY(VK_DOWN), MK_SHIFT);
             session.Key(KEY(VK_END));
             session.Key(KEY(VK_HOME));
-            session.Key(KEY(VK_NEXT));
-            session.Key(KEY(VK_PRIOR));
             session.TakeFocus(false);
         });
     }
@@ -42,33 +40,53 @@ TEST(HierListListBoxInput, FollowsTheKeys) {
 
 TEST(HierListListBoxInput, FollowsTheMouse) {
     for (const DWORD style : kSelectionStyles) {
-        ExpectTheSame(style, [](ListSession& session) {
+        const std::vector<Outcome> theirs = ExpectTheSame(style, [](ListSession& session) {
             Fill(session);
             session.Click(2);
             session.Click(4);
-            session.Click(4);
             session.Click(1, MK_CONTROL);
             session.Click(3, MK_CONTROL);
-            session.Click(1, MK_SHIFT);
-            session.Click(4, MK_SHIFT);
             session.Click(0);
-            session.DoubleClick(2);
             session.TakeFocus(false);
         });
+        EXPECT_EQ(theirs[1].answer, ", notified 4, notified 1") << style;
     }
 }
 
+TEST(HierListListBoxInput, ClicksAgainOnTheOnlyRow) {
+    ExpectTheSame(0, [](ListSession& session) {
+        Fill(session);
+        session.Click(2);
+        session.Click(2);
+        session.Click(2, MK_CONTROL);
+        session.Click(4, MK_SHIFT);
+    });
+}
+
 TEST(HierListListBoxInput, TypesAhead) {
+    ExpectTheSame(0, [](ListSession& session) {
+        Fill(session);
+        session.TakeFocus(true);
+        for (const wchar_t letter : {L'f', L'a', L'a', L'x', L's', L'p'}) {
+            session.Type(letter);
+        }
+    });
+}
+
+TEST(HierListListBoxInput, SaysNothingUnasked) {
     for (const DWORD style : kSelectionStyles) {
-        ExpectTheSame(style, [](ListSession& session) {
+        const std::vector<Outcome> theirs = ExpectTheSame(style, [](ListSession& session) {
             Fill(session);
+            session.Do(MESSAGE(LB_SETCARETINDEX), 3);
+            session.Do(MESSAGE(LB_SETCURSEL), 2);
+            session.Do(MESSAGE(LB_SELITEMRANGE), TRUE, MAKELPARAM(1, 4));
+            session.Do(MESSAGE(LB_SETTOPINDEX), 2);
             session.TakeFocus(true);
-            session.Type(L'f');
-            session.Type(L'a');
-            session.Type(L'a');
-            session.Type(L'x');
-            session.Type(L's');
+            session.TakeFocus(false);
         });
+        EXPECT_EQ(theirs[1].answer, "") << style;
+        EXPECT_EQ(theirs[5].answer, ", notified 4") << style;
+        EXPECT_EQ(theirs[6].answer, ", notified 5") << style;
     }
 }
 
