@@ -168,8 +168,7 @@ const Difference kAnswers[] = {
          list.Send(MESSAGE(LB_DELETESTRING), 3);
      },
      "6, deleted 2 77 3 0", "3"},
-    {"WM_DELETEITEM has the item's data, which is not its value", LBS_OWNERDRAWFIXED,
-     About::Answer,
+    {"WM_DELETEITEM has the item's data, which is not its value", LBS_OWNERDRAWFIXED, About::Answer,
      [](ListSession& list) {
          Fill(list);
          list.Send(MESSAGE(LB_DELETESTRING), 3);
@@ -401,10 +400,10 @@ TEST(HierListListBoxDifferences, TabStopsNeedNoStyle) {
 // either: all of them are refused.
 TEST(HierListListBoxDifferences, WhatHasNoFunctionIsRefused) {
     ListSession session(VORN_HIERLIST_CLASS, 0);
-    for (const UINT message : {UINT{LB_FINDSTRINGEXACT} + 1, UINT{LB_FINDSTRINGEXACT} + 2,
-                               UINT{LB_SETLOCALE}, UINT{LB_GETLOCALE}, UINT{LB_SETCOUNT},
-                               UINT{LB_INITSTORAGE}, UINT{LB_ITEMFROMPOINT},
-                               UINT{LB_GETLISTBOXINFO}}) {
+    for (const UINT message :
+         {UINT{LB_FINDSTRINGEXACT} + 1, UINT{LB_FINDSTRINGEXACT} + 2, UINT{LB_SETLOCALE},
+          UINT{LB_GETLOCALE}, UINT{LB_SETCOUNT}, UINT{LB_INITSTORAGE}, UINT{LB_ITEMFROMPOINT},
+          UINT{LB_GETLISTBOXINFO}}) {
         EXPECT_EQ(SendMessageW(session.list(), message, 0, 0), LB_ERR) << message;
     }
 }

@@ -217,10 +217,9 @@ TEST(HierListListBox, IsMeasuredAsItIs) {
             static constexpr int kStops[] = {20, 50, 90};
             for (const int count : {0, 1, 3}) {
                 SendMessageW(session.list(), LB_SETTABSTOPS, 0, 0);
-                session.Note("LB_SETTABSTOPS",
-                             SendMessageW(session.list(), LB_SETTABSTOPS,
-                                          static_cast<WPARAM>(count),
-                                          reinterpret_cast<LPARAM>(kStops)));
+                session.Note("LB_SETTABSTOPS", SendMessageW(session.list(), LB_SETTABSTOPS,
+                                                            static_cast<WPARAM>(count),
+                                                            reinterpret_cast<LPARAM>(kStops)));
             }
         });
     }

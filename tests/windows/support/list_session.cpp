@@ -1,6 +1,5 @@
 #include "tests/windows/support/list_session.h"
 
-
 #include <algorithm>
 #include <array>
 #include <sstream>
@@ -118,8 +117,7 @@ void ListSession::Send(const char* name, UINT message, WPARAM wParam, LPARAM lPa
 }
 
 void ListSession::SendText(const char* name, UINT message, int number, const wchar_t* text) {
-    const LRESULT answer =
-        SendMessageW(list_, message, static_cast<WPARAM>(number), ToData(text));
+    const LRESULT answer = SendMessageW(list_, message, static_cast<WPARAM>(number), ToData(text));
     WriteDown(Line(name, number, Narrow(text)), Line(answer));
 }
 
@@ -132,8 +130,8 @@ void ListSession::SendForText(const char* name, UINT message, int row) {
 
 void ListSession::SendForRect(const char* name, UINT message, int row) {
     RECT rect{};
-    const LRESULT answer = SendMessageW(list_, message, static_cast<WPARAM>(row),
-                                        reinterpret_cast<LPARAM>(&rect));
+    const LRESULT answer =
+        SendMessageW(list_, message, static_cast<WPARAM>(row), reinterpret_cast<LPARAM>(&rect));
     WriteDown(Line(name, row), Line(answer, rect.left, rect.top, rect.right, rect.bottom));
 }
 
@@ -212,9 +210,9 @@ std::string ListSession::Contents() const {
             SendMessageW(list_, LB_GETTEXT, static_cast<WPARAM>(row),
                          reinterpret_cast<LPARAM>(text.data()));
         }
-        items += Line(Narrow(text.data()) + ":", Ask(LB_GETITEMDATA, row),
-                      Ask(LB_GETITEMHEIGHT, row)) +
-                 "; ";
+        items +=
+            Line(Narrow(text.data()) + ":", Ask(LB_GETITEMDATA, row), Ask(LB_GETITEMHEIGHT, row)) +
+            "; ";
     }
     return Line(count, "items", items);
 }
@@ -241,8 +239,8 @@ LPARAM ListSession::ToData(const wchar_t* text) const {
 
 std::vector<Outcome> HoldListSession(const char* className, DWORD style,
                                      const std::function<void(ListSession&)>& script) {
-    ListSession session(className, style | LBS_NOTIFY | LBS_NOINTEGRALHEIGHT | LBS_USETABSTOPS |
-                                       WS_VSCROLL);
+    ListSession session(className,
+                        style | LBS_NOTIFY | LBS_NOINTEGRALHEIGHT | LBS_USETABSTOPS | WS_VSCROLL);
     script(session);
     return session.outcomes();
 }
