@@ -11,6 +11,11 @@ int CompareItems(const Outline& outline, const OlbItem* first, const OlbItem* se
     if (firstAhead != secondAhead) {
         return firstAhead ? -1 : 1;
     }
+    const char* firstKey = SortKeyOf(first);
+    const char* secondKey = SortKeyOf(second);
+    if (firstKey != nullptr && secondKey != nullptr) {
+        return std::strcmp(firstKey, secondKey);
+    }
     return outline.callbacks->compareTexts(outline.context, TextOf(first), TextOf(second));
 }
 

@@ -5,6 +5,7 @@
 #include "hierlist/structure.h"
 
 #include <algorithm>
+#include <array>
 #include <cstring>
 #include <limits>
 #include <new>
@@ -67,6 +68,30 @@ OlbItem* WithText(const char* text, std::size_t length) {
     return item;
 }
 
+constexpr std::uint32_t kLongestKey = 500;
+
+// For an item that will be compared: with a key behind the text, so that the platform, which takes
+// far longer to compare than to walk, is asked once for each item and not once for each step.
+OlbItem* WithTextToSort(const Outline& outline, const char* text, std::size_t length) {
+    if ((outline.style & kStyleSort) == 0 || outline.callbacks->sortKey == nullptr ||
+        !Fits(length + kLongestKey)) {
+        return WithText(text, length);
+    }
+    std::array<char, kLongestKey> key{};
+    const std::uint32_t size =
+        outline.callbacks->sortKey(outline.context, text, key.data(), kLongestKey);
+    if (size == 0) {
+        return WithText(text, length);
+    }
+    OlbItem* item = Allocate(SlotSize(length) + size);
+    if (item != nullptr) {
+        std::memcpy(SlotOf(item), text, length + 1);
+        std::memcpy(SlotOf(item) + length + 1, key.data(), size);
+        item->marks |= kMarkSortKey;
+    }
+    return item;
+}
+
 // The text outside the record, null when it is inside.
 char* OutsideText(const OlbItem* item) {
     char* text = nullptr;
@@ -87,7 +112,7 @@ bool StoreText(OlbItem* item, const char* text, std::size_t length) {
     char* before = OutsideText(item);
     if (length <= RoomInSlot(item)) {
         std::memmove(SlotOf(item), text, length + 1); // it may be a part of the old one
-        item->marks &= static_cast<std::uint8_t>(~(kMarkValue | kMarkTextOutside));
+        item->marks &= static_cast<std::uint8_t>(~(kMarkValue | kMarkTextOutside | kMarkSortKey));
     } else {
         void* block = AllocBlock(nullptr, static_cast<std::uint16_t>(length + 1));
         if (block == nullptr) {
@@ -95,7 +120,7 @@ bool StoreText(OlbItem* item, const char* text, std::size_t length) {
         }
         std::memcpy(block, text, length + 1);
         std::memcpy(SlotOf(item), &block, sizeof(block));
-        item->marks &= static_cast<std::uint8_t>(~kMarkValue);
+        item->marks &= static_cast<std::uint8_t>(~(kMarkValue | kMarkSortKey));
         item->marks |= kMarkTextOutside;
     }
     FreeBlock(nullptr, before);
@@ -105,7 +130,7 @@ bool StoreText(OlbItem* item, const char* text, std::size_t length) {
 void StoreValue(OlbItem* item, std::uintptr_t value) {
     FreeBlock(nullptr, OutsideText(item));
     std::memcpy(SlotOf(item), &value, sizeof(value));
-    item->marks &= static_cast<std::uint8_t>(~kMarkTextOutside);
+    item->marks &= static_cast<std::uint8_t>(~(kMarkTextOutside | kMarkSortKey));
     item->marks |= kMarkValue;
 }
 
@@ -127,6 +152,11 @@ const char* TextOf(const OlbItem* item) {
     return outside != nullptr ? outside : SlotOf(item);
 }
 
+const char* SortKeyOf(const OlbItem* item) {
+    const char* text = SlotOf(item);
+    return (item->marks & kMarkSortKey) != 0 ? text + std::strlen(text) + 1 : nullptr;
+}
+
 std::uintptr_t ValueOf(const OlbItem* item) {
     std::uintptr_t value = 0;
     if ((item->marks & kMarkValue) != 0) {
@@ -145,7 +175,7 @@ OlbItem* NewItem(Outline& outline, const char* text) {
         if (!Fits(length)) {
             return nullptr;
         }
-        item = WithText(text, length);
+        item = WithTextToSort(outline, text, length);
     }
     if (item == nullptr) {
         outline.callbacks->errorSpace(outline.context);

@@ -35,6 +35,7 @@ constexpr std::uint8_t kMarkOddChildren = 2; // not so: its children are linked 
 constexpr std::uint8_t kMarkTextOutside = 4; // the text has outgrown the record
 constexpr std::uint8_t kMarkValue = 8;       // holds a value of the host's instead of a text
 constexpr std::uint8_t kMarkDying = 16;      // taken out, to be freed; no operation takes it
+constexpr std::uint8_t kMarkSortKey = 32;    // the text's sort key follows it
 
 // One row, or what becomes a row when its parents open. Its address is its handle: it never moves.
 // The text follows in the same block, behind the item's node.
@@ -77,6 +78,9 @@ inline bool IsItem(const OlbItem* item) {
     return item != nullptr && item != NoItem() && (item->marks & kMarkDying) == 0;
 }
 
+// What the platform's comparison of texts is spared by, see Callbacks::sortKey; null without one.
+const char* SortKeyOf(const OlbItem* item);
+
 // The text, empty for an item that holds a value; the value, 0 for an item that holds a text.
 const char* TextOf(const OlbItem* item);
 std::uintptr_t ValueOf(const OlbItem* item);
@@ -114,6 +118,12 @@ struct Callbacks {
     // answers its value. Only called in compatibility mode.
     bool (*recordItem)(void* context, OlbItem* item, std::uintptr_t value);
     std::uintptr_t (*forgetItem)(void* context, OlbItem* item);
+
+    // May be null. Writes bytes, none of them 0, and a 0 behind them, in which texts compare as
+    // compareTexts has it; answers how many, or 0 for none: the text is too long for the room, or
+    // the platform's order has changed since the first one.
+    std::uint32_t (*sortKey)(void* context, const char* text, char* key,
+                             std::uint32_t room) = nullptr;
 };
 
 class Watch;

@@ -35,6 +35,21 @@ int CompareTexts(void* /*context*/, const char* first, const char* second) {
     return lstrcmpA(first, second);
 }
 
+// Keys of one locale are comparable: that of the first one. lstrcmpA goes by the thread's.
+std::uint32_t SortKey(void* context, const char* text, char* key, std::uint32_t room) {
+    Record& record = RecordIn(context);
+    const LCID locale = GetThreadLocale();
+    if (record.sortLocale == 0) {
+        record.sortLocale = locale;
+    }
+    if (record.sortLocale != locale) {
+        return 0;
+    }
+    const int size = LCMapStringA(locale, LCMAP_SORTKEY | LOCALE_USE_CP_ACP, text, lstrlenA(text),
+                                  key, static_cast<int>(room));
+    return static_cast<std::uint32_t>(size);
+}
+
 int CompareValues(void* context, std::uintptr_t first, std::uintptr_t second, std::uint32_t row) {
     HWND window = RecordIn(context).window;
     COMPAREITEMSTRUCT question{};
@@ -100,8 +115,8 @@ void RedrawAnyway(HWND window) {
 
 void RedrawPart(void* context, vorn::hierlist::Redraw what, std::uint32_t row) {
     const Record& record = RecordIn(context);
-    if (!IsDrawingOn(record)) {
-        return; // as nothing else does while a host adds thousands of items
+    if (record.redrawOff) {
+        return;
     }
     HWND window = record.window;
     switch (what) {
@@ -128,6 +143,7 @@ void Retired(void* context, OlbItem* item) {
 void Cleared(void* context) {
     Record& record = RecordIn(context);
     DropAllItems(record.state);
+    record.sortLocale = 0;
     ClearTable(record.sideTable);
 }
 
@@ -142,8 +158,8 @@ std::uintptr_t ForgetItem(void* context, OlbItem* item) {
 } // namespace
 
 constexpr Callbacks kListCallbacks = {
-    CompareTexts, CompareValues, Measure, Deleted, ErrorSpace, RowsChanged,
-    RedrawPart,   Deselected,    Retired, Cleared, RecordItem, ForgetItem,
+    CompareTexts, CompareValues, Measure, Deleted,    ErrorSpace, RowsChanged, RedrawPart,
+    Deselected,   Retired,       Cleared, RecordItem, ForgetItem, SortKey,
 };
 
 void AskRowHeight(HWND window) {

@@ -11,8 +11,14 @@ extern "C" LONG WINAPI olbAddString(HWND window, LPCSTR text) {
     return record == nullptr ? LB_ERR : AddRow(*record, nullptr, text);
 }
 
+// Hosts add very many: the record is fetched once.
 extern "C" LONG WINAPI olbAddChildString(HWND window, LONG parent, LPCSTR text) {
-    return RowOfHandle(olbAddChildStringEx(window, HandleAt(window, parent), text));
+    Record* record = RecordOf<Record>(window);
+    if (record == nullptr) {
+        return LB_ERR;
+    }
+    const OlbItem* item = AddChild(record->outline, ItemAt(*record, parent), text);
+    return IsItem(item) ? ToRow(IndexOfAdded(record->outline, item)) : LB_ERR;
 }
 
 extern "C" HOLBITEM WINAPI olbAddChildStringEx(HWND window, HOLBITEM parent, LPCSTR text) {

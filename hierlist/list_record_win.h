@@ -23,6 +23,7 @@ struct Record {
     HWND window = nullptr;
     Outline outline;
     SideTable sideTable; // of compatibility mode
+    LCID sortLocale = 0; // of the items' sort keys; 0 when there are none yet
     ListOptions options;
     Strips strips;                  // those of levels and of the host are the control's to free
     std::array<HBITMAP, 2> boxes{}; // of a closed and of an open item

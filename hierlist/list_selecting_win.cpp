@@ -7,6 +7,8 @@
 #include "hierlist/select_at.h"
 #include "hierlist/type_ahead.h"
 
+#include <algorithm>
+
 namespace vorn::hierlist {
 namespace {
 
@@ -110,14 +112,23 @@ extern "C" LONG WINAPI olbSetSel(HWND window, LONG row, BOOL select) {
         return LB_ERR;
     }
     if (row == -1) {
+        if (select != 0) {
+            record->state.selection.anchor = nullptr;
+        }
         SelectAll(window, *record, 0, LastRow(*record), select != 0);
         return 0;
     }
     if (!IsRow(*record, row)) {
         return LB_ERR;
     }
-    PerformAll(window,
-               SelectRow(record->outline, record->state, Position(row), select != 0, Tell::Nobody));
+    Actions actions =
+        SelectRow(record->outline, record->state, Position(row), select != 0, Tell::Nobody);
+    if (select != 0) {
+        // As in list boxes, the row that was selected last is where the user goes on from.
+        record->state.selection.anchor = ItemAt(*record, row);
+        MoveCaret(actions, record->outline, record->state, Position(row));
+    }
+    PerformAll(window, actions);
     return 0;
 }
 
@@ -131,11 +142,11 @@ extern "C" LONG WINAPI olbGetSel(HWND window, LONG row) {
 
 extern "C" LONG WINAPI olbGetSelItems(HWND window, LONG most, int* rows) {
     const Record* record = RecordOfKind(window, true);
-    if (record == nullptr || most < 0 || rows == nullptr) {
+    if (record == nullptr || rows == nullptr) {
         return LB_ERR;
     }
-    return static_cast<LONG>(
-        SelectedRows(record->outline, record->state.selection, rows, Position(most)));
+    return static_cast<LONG>(SelectedRows(record->outline, record->state.selection, rows,
+                                          Position(std::max<LONG>(most, 0))));
 }
 
 extern "C" LONG WINAPI olbGetSelCount(HWND window) {
@@ -148,8 +159,10 @@ extern "C" LONG WINAPI olbSelItemRange(HWND window, LONG first, LONG last, BOOL 
     if (record == nullptr) {
         return LB_ERR;
     }
-    if (first >= 0 && first <= last) {
-        SelectAll(window, *record, first, last, select != 0);
+    const LONG end = last != -1 ? last : LastRow(*record);
+    if (std::max(first, end) >= 0) {
+        SelectAll(window, *record, std::max<LONG>(std::min(first, end), 0), std::max(first, end),
+                  select != 0);
     }
     return 0;
 }
@@ -193,10 +206,13 @@ extern "C" LONG WINAPI olbGetCaretIndex(HWND window) {
 
 extern "C" LONG WINAPI olbSetTopIndex(HWND window, LONG row) {
     Record* record = RecordOf<Record>(window);
-    if (record == nullptr || !IsRow(*record, row)) {
+    if (record == nullptr || (row != 0 && !IsRow(*record, row))) {
         return LB_ERR;
     }
     const Layout layout = LayoutOf(*record);
+    if (RowCount(layout) == 0) {
+        return 0;
+    }
     if (layout.multiColumn) {
         ScrollSidewaysTo(window, OffsetOfColumn(layout, Position(row)));
     } else {
@@ -224,11 +240,17 @@ extern "C" LONG WINAPI olbGetItemAtPoint(HWND window, int x, int y) {
     return record == nullptr ? LB_ERR : ToRow(RowAt(LayoutOf(*record), {x, y}));
 }
 
+// An empty list has a place for its first row all the same.
 extern "C" LONG WINAPI olbGetItemRect(HWND window, LONG row, RECT* rect) {
     Record* record = RecordOf<Record>(window);
-    if (record == nullptr || rect == nullptr || !IsRow(*record, row)) {
+    if (record == nullptr || rect == nullptr || (row != 0 && !IsRow(*record, row))) {
         return LB_ERR;
     }
-    *rect = ToPlatform(RowRect(LayoutOf(*record), Position(row)));
-    return 0;
+    const Layout layout = LayoutOf(*record);
+    *rect = ToPlatform(RowCount(layout) != 0 ? RowRect(layout, Position(row))
+                                             : Rect{0, 0, layout.client.width, layout.rowHeight});
+    RECT client{};
+    GetClientRect(window, &client);
+    RECT inView{};
+    return IntersectRect(&inView, rect, &client) != 0 ? 1 : 0;
 }

@@ -1,11 +1,18 @@
 // The messages of a list box, LB_ADDSTRING to LB_FINDSTRINGEXACT, answered by the list's functions.
-// Those without a function, and later ones up to LB_ITEMFROMPOINT, are answered with LB_ERR.
+// Those without a function, and later ones up to LB_GETLISTBOXINFO, are answered with LB_ERR.
 #include "core/window_win.h"
 #include "hierlist/list_handles_win.h"
 #include "hierlist/list_messages_win.h"
 
+#include <algorithm>
+
 namespace vorn::hierlist {
 namespace {
+
+constexpr LPARAM kMostPixels = 255; // of a height that a list box takes
+
+// The last of a list box's messages. Those behind LB_FINDSTRINGEXACT have no function here.
+constexpr UINT kLastMessage = LB_GETLISTBOXINFO;
 
 LONG ToNumber(WPARAM wParam) {
     return static_cast<LONG>(wParam);
@@ -64,7 +71,9 @@ bool AnswerItems(HWND window, UINT message, WPARAM wParam, LPARAM lParam, LRESUL
         result = olbGetItemHeight(window, ToNumber(wParam));
         return true;
     case LB_SETITEMHEIGHT:
-        result = olbSetItemHeight(window, ToNumber(wParam), LOWORD(lParam));
+        result = lParam >= 0 && lParam <= kMostPixels
+                     ? olbSetItemHeight(window, ToNumber(wParam), static_cast<LONG>(lParam))
+                     : LB_ERR;
         return true;
     case LB_FINDSTRING:
         result = olbFindString(window, -1, ToNumber(wParam), ToText(lParam), FALSE);
@@ -82,8 +91,7 @@ bool AnswerItems(HWND window, UINT message, WPARAM wParam, LPARAM lParam, LRESUL
 
 // A range whose first row is not behind its last is selected, any other deselected.
 LRESULT SelectRange(HWND window, LONG first, LONG last) {
-    return first <= last ? olbSelItemRange(window, first, last, TRUE)
-                         : olbSelItemRange(window, last, first, FALSE);
+    return olbSelItemRange(window, std::min(first, last), std::max(first, last), first <= last);
 }
 
 bool AnswerSelection(HWND window, UINT message, WPARAM wParam, LPARAM lParam, LRESULT& result) {
@@ -161,7 +169,7 @@ bool AnswerView(HWND window, UINT message, WPARAM wParam, LPARAM lParam, LRESULT
 
 bool AnswerListBoxMessage(HWND window, UINT message, WPARAM wParam, LPARAM lParam,
                           LRESULT& result) {
-    if (message < LB_ADDSTRING || message > LB_ITEMFROMPOINT) {
+    if (message < LB_ADDSTRING || message > kLastMessage) {
         return false;
     }
     if (!AnswerContents(window, message, wParam, lParam, result) &&

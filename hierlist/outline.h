@@ -23,6 +23,9 @@ OlbItem* IndexToHandle(const Outline& outline, std::uint32_t row);
 // The row of an item; of a hidden one its position among its siblings. kNoRow for no item.
 std::uint32_t HandleToIndex(const OlbItem* item);
 
+// The same of an item that was just added, which is likely to be the last row: that takes less.
+std::uint32_t IndexOfAdded(const Outline& outline, const OlbItem* item);
+
 // 1 or 0; -1 for no item. Visible is an item all of whose parents are open, which takes a step for
 // each of them.
 std::int32_t QueryVisible(const OlbItem* item);

@@ -23,6 +23,11 @@ std::uint32_t HandleToIndex(const OlbItem* item) {
     return IsItem(item) ? SeqPosition(item->node) : kNoRow;
 }
 
+std::uint32_t IndexOfAdded(const Outline& outline, const OlbItem* item) {
+    return item->node == SeqLast(outline.visibleRoot) ? SeqCount(outline.visibleRoot) - 1
+                                                      : SeqPosition(item->node);
+}
+
 std::int32_t QueryVisible(const OlbItem* item) {
     if (!IsItem(item)) {
         return -1;

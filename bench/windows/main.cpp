@@ -12,6 +12,7 @@ int main() {
     LoadLibraryA("comctl32.dll");
     bench::Host();
     bench::MeasureOutline();
+    bench::MeasureOutlineItems();
     bench::MeasureButton();
     bench::MeasureCalendar();
     bench::MeasureDateEdit();

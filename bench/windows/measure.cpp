@@ -53,6 +53,14 @@ std::function<void()> Repeated(int calls, const std::function<void()>& call) {
     };
 }
 
+void PrintComparison(const char* what, const std::vector<double>& ours,
+                     const std::vector<double>& theirs) {
+    const double our = Median(ours);
+    const double their = Median(theirs);
+    std::printf("%-58s %10.2f us %10.2f us %8.2f\n", what, our, their, our / their);
+    std::fflush(stdout);
+}
+
 } // namespace
 
 void Compare(const char* what, int calls, const std::function<void()>& ours,
@@ -63,10 +71,21 @@ void Compare(const char* what, int calls, const std::function<void()>& ours,
         ourTimes.push_back(Microseconds(Repeated(calls, ours)) / calls);
         theirTimes.push_back(Microseconds(Repeated(calls, theirs)) / calls);
     }
-    const double our = Median(ourTimes);
-    const double their = Median(theirTimes);
-    std::printf("%-58s %10.2f us %10.2f us %8.2f\n", what, our, their, our / their);
-    std::fflush(stdout);
+    PrintComparison(what, ourTimes, theirTimes);
+}
+
+void CompareAfter(const char* what, int rounds, const std::function<void()>& prepareOurs,
+                  const std::function<void()>& ours, const std::function<void()>& prepareTheirs,
+                  const std::function<void()>& theirs) {
+    std::vector<double> ourTimes;
+    std::vector<double> theirTimes;
+    for (int round = 0; round < rounds; ++round) {
+        prepareOurs();
+        ourTimes.push_back(Microseconds(ours));
+        prepareTheirs();
+        theirTimes.push_back(Microseconds(theirs));
+    }
+    PrintComparison(what, ourTimes, theirTimes);
 }
 
 void Measure(const char* what, int calls, const std::function<void()>& ours) {

@@ -11,6 +11,11 @@ namespace bench {
 void Compare(const char* what, int calls, const std::function<void()>& ours,
              const std::function<void()>& theirs);
 
+// The same one call a round, with something to be done before each that is not counted.
+void CompareAfter(const char* what, int rounds, const std::function<void()>& prepareOurs,
+                  const std::function<void()>& ours, const std::function<void()>& prepareTheirs,
+                  const std::function<void()>& theirs);
+
 // Prints one row: microseconds a call of ours, where there is nothing to set beside it.
 void Measure(const char* what, int calls, const std::function<void()>& ours);
 
@@ -51,5 +56,6 @@ void MeasureFontSelect();
 void MeasureOutline();
 void MeasureTimeEdit();
 void MeasureHierList();
+void MeasureOutlineItems();
 
 } // namespace bench

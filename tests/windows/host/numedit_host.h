@@ -11,6 +11,18 @@ namespace vorn::test {
 
 class NumEditHost : public EditHost {
 protected:
+    // Typing inserts, whatever tests before have done to the Insert key.
+    NumEditHost() { SetOverwriting(false); }
+    ~NumEditHost() override { SetOverwriting(false); }
+
+    // The toggle state of the Insert key, without its message.
+    static void SetOverwriting(bool on) {
+        BYTE keys[256];
+        GetKeyboardState(keys);
+        keys[VK_INSERT] = on ? 1 : 0;
+        SetKeyboardState(keys);
+    }
+
     // Empty, of this format with "." and ",", whatever the user's settings are. Nothing is noted
     // yet.
     HWND Create(DWORD kind = NM_GENERAL, WORD digits = 0, DWORD style = 0, int width = 120,

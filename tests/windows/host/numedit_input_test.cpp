@@ -10,16 +10,6 @@ using vorn::test::operator+;
 
 class NumEditInput : public NumEditHost {
 protected:
-    ~NumEditInput() override { SetOverwriting(false); }
-
-    // The toggle state of the Insert key, without its message.
-    static void SetOverwriting(bool on) {
-        BYTE keys[256];
-        GetKeyboardState(keys);
-        keys[VK_INSERT] = on ? 1 : 0;
-        SetKeyboardState(keys);
-    }
-
     // Both messages of a key that types a character ask; the character's tells of what it did, and
     // 1424 comes once more.
     static inline const Events kTyped = Events{"ask", "ask"} + ChangeEvents() + Events{"changed"};
