@@ -7,8 +7,7 @@ using namespace vorn::hierlist;
 // ---- Adding ----
 
 extern "C" LONG WINAPI olbAddString(HWND window, LPCSTR text) {
-    Record* record = RecordOf<Record>(window);
-    return record == nullptr ? LB_ERR : AddRow(*record, nullptr, text);
+    return olbAddChildString(window, -1, text);
 }
 
 // Hosts add very many: the record is fetched once.
