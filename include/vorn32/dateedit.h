@@ -207,7 +207,10 @@ VORNAPI void WINAPI dtSetDayLiterals(HWND window, const char* text);
  */
 VORNAPI BOOL WINAPI dtSetBorderStyle(HWND window, DWORD borderStyle);
 
-/* Stores a number for the host; 1 at creation. */
+/*
+ * Which buttons the calendar's dialog has: 0 the system's, any other number picture buttons. 1 at
+ * creation.
+ */
 VORNAPI void WINAPI dtSetButtonStyle(HWND window, DWORD buttonStyle);
 
 /*
