@@ -7,6 +7,8 @@
 #include "hierlist/select_at.h"
 #include "hierlist/type_ahead.h"
 
+#include <algorithm>
+
 namespace vorn::hierlist {
 namespace {
 
@@ -116,8 +118,14 @@ extern "C" LONG WINAPI olbSetSel(HWND window, LONG row, BOOL select) {
     if (!IsRow(*record, row)) {
         return LB_ERR;
     }
-    PerformAll(window,
-               SelectRow(record->outline, record->state, Position(row), select != 0, Tell::Nobody));
+    Actions actions =
+        SelectRow(record->outline, record->state, Position(row), select != 0, Tell::Nobody);
+    if (select != 0) {
+        record->state.selection.anchor = ItemAt(*record, row);
+        MoveCaret(actions, record->outline, record->state, Position(row));
+        AppendUpdate(actions);
+    }
+    PerformAll(window, actions);
     return 0;
 }
 
@@ -148,8 +156,9 @@ extern "C" LONG WINAPI olbSelItemRange(HWND window, LONG first, LONG last, BOOL 
     if (record == nullptr) {
         return LB_ERR;
     }
-    if (first >= 0 && first <= last) {
-        SelectAll(window, *record, first, last, select != 0);
+    const LONG end = std::max(first, last);
+    if (end >= 0) {
+        SelectAll(window, *record, std::max(std::min(first, last), LONG{0}), end, select != 0);
     }
     return 0;
 }

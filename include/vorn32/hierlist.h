@@ -11,7 +11,8 @@
  * by its row, its 0-based position among the visible items. Functions whose names end in Ex take
  * and give handles, the others rows. The number -1 stands for no row and for failure.
  *
- * Functions answer -1 for a window that is no outline list, unless they say otherwise.
+ * Functions answer -1 for a window that is no outline list; 0, FALSE or null where a bitmap, a
+ * BOOL, a colour, flags or a coordinate is the answer.
  */
 #ifndef VORN32_HIERLIST_H
 #define VORN32_HIERLIST_H
@@ -332,8 +333,8 @@ VORNAPI LONG WINAPI olbSetItemData(HWND window, LONG row, LONG_PTR data);
 VORNAPI LONG WINAPI olbSetItemDataEx(HWND window, HOLBITEM item, LONG_PTR data);
 
 /*
- * The height in pixels: of the item with LBS_OWNERDRAWVARIABLE, of all rows otherwise and for -1 or
- * null. Setting results in 0.
+ * The height in pixels, at least 1: of the item with LBS_OWNERDRAWVARIABLE, of all rows otherwise
+ * and for -1, null and OLB_NOITEM. Setting results in 0.
  */
 VORNAPI LONG WINAPI olbGetItemHeight(HWND window, LONG row);
 VORNAPI LONG WINAPI olbGetItemHeightEx(HWND window, HOLBITEM item);
@@ -465,8 +466,9 @@ VORNAPI HOLBITEM WINAPI olbGetCurSelEx(HWND window);
 
 /*
  * For lists that select several (-1 in others): select or deselect a row, all rows for -1; rows
- * from one to another; and answer how many items are selected, and at most so many of their rows,
- * whose number is the result. Nothing is notified.
+ * from one to another, whichever comes first; and answer how many items are selected, and at most
+ * so many of their rows, whose number is the result. A row that olbSetSel selects becomes anchor
+ * and caret and comes into view. Nothing is notified.
  */
 VORNAPI LONG WINAPI olbSetSel(HWND window, LONG row, BOOL select);
 VORNAPI LONG WINAPI olbSelItemRange(HWND window, LONG first, LONG last, BOOL select);
