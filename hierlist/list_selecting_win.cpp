@@ -127,6 +127,7 @@ extern "C" LONG WINAPI olbSetSel(HWND window, LONG row, BOOL select) {
         // As in list boxes, the row that was selected last is where the user goes on from.
         record->state.selection.anchor = ItemAt(*record, row);
         MoveCaret(actions, record->outline, record->state, Position(row));
+        AppendUpdate(actions);
     }
     PerformAll(window, actions);
     return 0;

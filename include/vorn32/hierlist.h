@@ -11,7 +11,8 @@
  * by its row, its 0-based position among the visible items. Functions whose names end in Ex take
  * and give handles, the others rows. The number -1 stands for no row and for failure.
  *
- * Functions answer -1 for a window that is no outline list, unless they say otherwise.
+ * Functions answer -1 for a window that is no outline list; 0, FALSE or null where a bitmap, a
+ * BOOL, a colour, flags or a coordinate is the answer.
  */
 #ifndef VORN32_HIERLIST_H
 #define VORN32_HIERLIST_H
@@ -332,8 +333,8 @@ VORNAPI LONG WINAPI olbSetItemData(HWND window, LONG row, LONG_PTR data);
 VORNAPI LONG WINAPI olbSetItemDataEx(HWND window, HOLBITEM item, LONG_PTR data);
 
 /*
- * The height in pixels: of the item with LBS_OWNERDRAWVARIABLE, of all rows otherwise and for -1 or
- * null. Setting results in 0.
+ * The height in pixels, at least 1: of the item with LBS_OWNERDRAWVARIABLE, of all rows otherwise
+ * and for -1, null and OLB_NOITEM. Setting results in 0.
  */
 VORNAPI LONG WINAPI olbGetItemHeight(HWND window, LONG row);
 VORNAPI LONG WINAPI olbGetItemHeightEx(HWND window, HOLBITEM item);

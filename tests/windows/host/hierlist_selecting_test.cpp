@@ -86,6 +86,8 @@ TEST_F(HierListSelecting, OfSeveral) {
         EXPECT_EQ(olbSetSel(list, 1, TRUE), 0);
         EXPECT_EQ(olbSetSel(list, 1, TRUE), 0) << "again";
         EXPECT_EQ(Selected(list), "1 4 ");
+        EXPECT_EQ(olbGetAnchorIndex(list), 1) << "the row selected last";
+        EXPECT_EQ(olbGetCaretIndex(list), 1);
         int rows[4] = {-5, -5, -5, -5};
         EXPECT_EQ(olbGetSelItems(list, 4, rows), 2);
         EXPECT_EQ(rows[0], 1) << "from the top down";
@@ -115,6 +117,10 @@ TEST_F(HierListSelecting, OfRanges) {
     EXPECT_EQ(olbSelItemRange(list, 3, 3, FALSE), 0);
     EXPECT_EQ(olbSelItemRange(list, 8, 99, TRUE), 0) << "cut to the rows there are";
     EXPECT_EQ(Selected(list), "2 4 8 9 ");
+    EXPECT_EQ(olbSelItemRange(list, 4, 2, FALSE), 0) << "whichever comes first";
+    EXPECT_EQ(Selected(list), "8 9 ");
+    EXPECT_EQ(olbSelItemRange(list, 9, -3, FALSE), 0);
+    EXPECT_EQ(Selected(list), "");
     EXPECT_GE(PaintsBy(list, [&] { olbSelItemRange(list, 0, 1, TRUE); }), 1u);
     EXPECT_EQ(PaintsBy(list, [&] { olbSelItemRange(list, 0, 1, TRUE); }), 0u) << "nothing changed";
 }

@@ -225,6 +225,7 @@ TEST_F(HierListFamily, LeavesNothingBehind) {
     const std::uint32_t before = BlockCount();
     EXPECT_EQ(ObjectsLeftBy([&] {
                   HWND list = Fill(LBS_SORT);
+                  SendMessageA(list, WM_SETREDRAW, FALSE, 0);
                   olbSetLevelBitmap(list, 0, CreateBitmap(32, 16, 1, 1, nullptr));
                   olbSetLevelBitmap(list, 0, CreateBitmap(32, 16, 1, 1, nullptr));
                   olbSetBitmaps(list, -1, CreateBitmap(32, 16, 1, 1, nullptr));
@@ -235,6 +236,7 @@ TEST_F(HierListFamily, LeavesNothingBehind) {
                   const int stops[] = {10, 30};
                   olbSetTabStops(list, 2, stops);
                   olbDeleteString(list, 0);
+                  SendMessageA(list, WM_SETREDRAW, TRUE, 0);
                   UpdateWindow(list);
                   DestroyWindow(list);
               }),
