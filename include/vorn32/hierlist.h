@@ -465,9 +465,9 @@ VORNAPI HOLBITEM WINAPI olbGetCurSelEx(HWND window);
 
 /*
  * For lists that select several (-1 in others): select or deselect a row, all rows for -1; rows
- * from one to another, -1 being the last; and answer how many items are selected, and at most so many of their rows,
- * whose number is the result. Nothing is notified. A row that olbSetSel selects becomes anchor and
- * caret and is scrolled into view.
+ * from one to another, -1 being the last; and answer how many items are selected, and at most so
+ * many of their rows, whose number is the result. Nothing is notified. A row that olbSetSel selects
+ * becomes anchor and caret and is scrolled into view.
  */
 VORNAPI LONG WINAPI olbSetSel(HWND window, LONG row, BOOL select);
 VORNAPI LONG WINAPI olbSelItemRange(HWND window, LONG first, LONG last, BOOL select);
@@ -497,8 +497,8 @@ VORNAPI LONG WINAPI olbGetTopIndex(HWND window);
 VORNAPI LONG WINAPI olbGetBottomIndex(HWND window);
 
 /*
- * The row at a client point; and where a row is, resulting in 1 when a part of it is in view, else in
- * 0. An empty list has a place for row 0.
+ * The row at a client point; and where a row is, resulting in 1 when a part of it is in view, else
+ * in 0. An empty list has a place for row 0.
  */
 VORNAPI LONG WINAPI olbGetItemAtPoint(HWND window, int x, int y);
 VORNAPI LONG WINAPI olbGetItemRect(HWND window, LONG row, RECT* rect);
