@@ -43,7 +43,7 @@ void* AllocBlock(void* /*context*/, std::uint16_t size) {
     if (memory == nullptr) {
         return nullptr;
     }
-    void* block = GlobalLock(memory);
+    void* block = movable ? GlobalLock(memory) : memory;
     if (block == nullptr) {
         GlobalFree(memory);
         return nullptr;
@@ -68,11 +68,11 @@ void FreeBlock(void* /*context*/, void* block) {
     // The handle of a fixed block is its address.
     if (memory != block) {
         InterlockedDecrement(&movableBlocks);
+        GlobalUnlock(memory);
     }
 #ifdef VORN_TEST_HOOKS
     InterlockedDecrement(&blocks);
 #endif
-    GlobalUnlock(memory);
     GlobalFree(memory);
 }
 

@@ -41,6 +41,16 @@ LRESULT CALLBACK PageProc(HWND window, UINT message, WPARAM wParam, LPARAM lPara
             page->scroll(window, LOWORD(wParam), position, reinterpret_cast<HWND>(lParam));
         }
         return 0;
+    case WM_MEASUREITEM:
+        if (page->measure != nullptr) {
+            page->measure(*reinterpret_cast<MEASUREITEMSTRUCT*>(lParam));
+        }
+        return TRUE;
+    case WM_DRAWITEM:
+        if (page->draw != nullptr) {
+            page->draw(*reinterpret_cast<const DRAWITEMSTRUCT*>(lParam));
+        }
+        return TRUE;
     case WM_TIMER:
         if (page->tick != nullptr) {
             page->tick(window);

@@ -16,6 +16,9 @@ struct Page {
     void (*tick)(HWND page);
     // A control's scroll message; null when the page needs none.
     void (*scroll)(HWND page, int code, int position, HWND control) = nullptr;
+    // What controls ask that leave drawing to the page; null when there are none.
+    void (*measure)(MEASUREITEMSTRUCT& item) = nullptr;
+    void (*draw)(const DRAWITEMSTRUCT& item) = nullptr;
 };
 
 constexpr int kPageWidth = 620;
