@@ -1,7 +1,7 @@
 // The font of an outline list.
 #pragma once
 
-#include "hierlist/list_record.h"
+#include "hierlist/list_record_win.h"
 
 namespace vorn::hierlist {
 

@@ -83,11 +83,19 @@ void ErrorSpace(void* context) {
 void RowsChanged(void* context) {
     Record& record = RecordIn(context);
     ForgetColumns(record);
-    UpdateBars(record.window);
+    if (IsDrawingOn(record)) {
+        UpdateBars(record.window);
+    } else {
+        record.barsStale = true;
+    }
 }
 
 void RedrawPart(void* context, vorn::hierlist::Redraw what, std::uint32_t row) {
-    HWND window = RecordIn(context).window;
+    const Record& record = RecordIn(context);
+    if (!IsDrawingOn(record)) {
+        return; // as nothing else does while a host adds thousands of items
+    }
+    HWND window = record.window;
     switch (what) {
     case vorn::hierlist::Redraw::All:
         RedrawRows(window);

@@ -1,7 +1,7 @@
 // What an outline list asks its parent about items and tells it of them.
 #pragma once
 
-#include "hierlist/list_record.h"
+#include "hierlist/list_record_win.h"
 
 namespace vorn::hierlist {
 

@@ -1,5 +1,5 @@
 // The exported functions that put items into an outline list and open and close them.
-#include "hierlist/list_record.h"
+#include "hierlist/list_record_win.h"
 
 #include <vorn32/hierlist.h>
 
@@ -14,8 +14,10 @@ HOLBITEM ToHandle(OlbItem* item) {
     return reinterpret_cast<HOLBITEM>(item);
 }
 
-LONG ToRow(std::uint32_t row) {
-    return static_cast<LONG>(row);
+// Adds a child, at the top level for none. Returns its row, of a hidden one the position among its
+// siblings.
+LONG AddRow(Record& record, OlbItem* parent, const char* text) {
+    return static_cast<LONG>(HandleToIndex(AddChild(record.outline, parent, text)));
 }
 
 } // namespace
@@ -25,16 +27,17 @@ using namespace vorn;
 using namespace vorn::hierlist;
 
 extern "C" LONG WINAPI olbAddString(HWND window, LPCSTR text) {
-    return olbAddChildString(window, -1, text);
+    Record* record = RecordOf<Record>(window);
+    return record == nullptr ? LB_ERR : AddRow(*record, nullptr, text);
 }
 
 extern "C" LONG WINAPI olbAddChildString(HWND window, LONG parent, LPCSTR text) {
-    const Record* record = RecordOf<Record>(window);
+    Record* record = RecordOf<Record>(window);
     if (record == nullptr) {
         return LB_ERR;
     }
     OlbItem* owner = IndexToHandle(record->outline, static_cast<std::uint32_t>(parent));
-    return ToRow(HandleToIndex(ToItem(olbAddChildStringEx(window, ToHandle(owner), text))));
+    return AddRow(*record, owner, text);
 }
 
 extern "C" HOLBITEM WINAPI olbAddChildStringEx(HWND window, HOLBITEM parent, LPCSTR text) {

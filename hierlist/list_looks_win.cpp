@@ -1,7 +1,10 @@
 // The exported functions that say how an outline list looks.
+#include "core/color_win.h"
 #include "core/window_win.h"
 #include "hierlist/list_border_win.h"
+#include "hierlist/list_paint_win.h"
 #include "hierlist/list_view_win.h"
+#include "hierlist/row_spans.h"
 
 #include <vorn32/hierlist.h>
 
@@ -35,6 +38,18 @@ bool IsSlot(int number) {
 // A number as one that an item's record holds.
 std::int16_t ToIndex(LONG index) {
     return static_cast<std::int16_t>(index);
+}
+
+const OlbItem* ItemAt(const Record& record, LONG row) {
+    return IndexToHandle(record.outline, static_cast<std::uint32_t>(row));
+}
+
+// What a part of a row is painted with for a parent, which has painted the ground: pictures are
+// laid on the colour that is at the point.
+RowTools ToolsFor(HDC context, const Record& record, Point point) {
+    const COLORREF there = GetPixel(context, point.x, point.y);
+    const COLORREF background = ResolveColor(record.options.colors.background);
+    return {context, record, {nullptr, there != CLR_INVALID ? there : background}};
 }
 
 } // namespace
@@ -85,22 +100,22 @@ extern "C" LONG WINAPI olbGetIndent(HWND window) {
     return record == nullptr ? LB_ERR : record->options.indent;
 }
 
-extern "C" LONG WINAPI olbSetBitmapIndexEx(HWND window, HOLBITEM handle, LONG index) {
+extern "C" LONG WINAPI olbSetBitmapIndexEx(HWND window, HOLBITEM item, LONG index) {
     Record* record = RecordOf<Record>(window);
     if (record == nullptr) {
         return LB_ERR;
     }
-    auto* item = reinterpret_cast<OlbItem*>(handle);
-    if (item == nullptr || item == NoItem()) {
+    auto* target = reinterpret_cast<OlbItem*>(item);
+    if (target == nullptr || target == NoItem()) {
         const LONG before = record->options.defaultPicture;
         record->options.defaultPicture = index;
         RedrawRows(window);
         return before;
     }
-    const LONG before = item->bitmapIndex;
-    SetBitmapIndex(record->outline, item, ToIndex(index));
-    if (QueryVisible(item) == 1) {
-        RedrawRow(window, HandleToIndex(item));
+    const LONG before = target->bitmapIndex;
+    SetBitmapIndex(record->outline, target, ToIndex(index));
+    if (QueryVisible(target) == 1) {
+        RedrawRow(window, HandleToIndex(target));
     }
     return before;
 }
@@ -129,4 +144,37 @@ extern "C" BOOL WINAPI olbSetBorderStyle(HWND window, DWORD border) {
 extern "C" LONG WINAPI olbGetBorderStyle(HWND window) {
     const Record* record = RecordOf<Record>(window);
     return record == nullptr ? LB_ERR : static_cast<LONG>(record->options.border);
+}
+
+extern "C" int WINAPI olbPaintBitmap(HWND window, HDC context, LONG row, const RECT* place) {
+    Record* record = RecordOf<Record>(window);
+    const OlbItem* item = record == nullptr ? nullptr : ItemAt(*record, row);
+    if (item == nullptr || place == nullptr) {
+        return LB_ERR;
+    }
+    const Rect rect = FromPlatform(*place);
+    const int left = rect.left + ContentStart(record->options, item->level);
+    if (!ShowsPictures(record->options)) {
+        return left;
+    }
+    return PaintPicture(ToolsFor(context, *record, {left, rect.top}), item, rect, left);
+}
+
+extern "C" BOOL WINAPI olbPaintLines(HWND window, HDC context, LONG row, const RECT* place) {
+    Record* record = RecordOf<Record>(window);
+    const OlbItem* item = record == nullptr ? nullptr : ItemAt(*record, row);
+    if (item == nullptr || place == nullptr) {
+        return 0;
+    }
+    const Rect rect = FromPlatform(*place);
+    RowTools tools = ToolsFor(context, *record, {rect.left, rect.top});
+    tools.lines = MakeLinePen(*record);
+    if (tools.lines != nullptr) {
+        PaintLines(tools, item, rect);
+        DeleteObject(tools.lines);
+    }
+    if (HasOption(record->options, kOptionBoxes)) {
+        PaintBox(tools, item, rect);
+    }
+    return 1;
 }

@@ -3,7 +3,7 @@
 
 #include "core/paint_win.h"
 #include "hierlist/layout.h"
-#include "hierlist/list_record.h"
+#include "hierlist/list_record_win.h"
 
 namespace vorn::hierlist {
 

@@ -2,7 +2,7 @@
 // host code: the control may be gone afterwards.
 #pragma once
 
-#include "hierlist/list_record.h"
+#include "hierlist/list_record_win.h"
 
 namespace vorn::hierlist {
 

@@ -2,7 +2,7 @@
 #pragma once
 
 #include "hierlist/layout.h"
-#include "hierlist/list_record.h"
+#include "hierlist/list_record_win.h"
 
 namespace vorn::hierlist {
 

@@ -1,7 +1,7 @@
 #include "hierlist/prepared_pictures_win.h"
 
 #include "core/transparent_blit_win.h"
-#include "hierlist/list_record.h"
+#include "hierlist/list_record_win.h"
 #include "hierlist/row_spans.h"
 
 #include <algorithm>

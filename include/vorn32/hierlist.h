@@ -99,6 +99,16 @@ VORNAPI BOOL WINAPI olbSetBorderStyle(HWND window, DWORD border);
 VORNAPI LONG WINAPI olbGetBorderStyle(HWND window);
 
 /*
+ * For parents that draw rows: draw a row's picture, and its lines and open/close box, as the list
+ * itself would in a row at this place, as far as they are shown. The ground is the parent's; of the
+ * picture's place one colour counts, that of the top left pixel. The first results in the x behind
+ * the picture (where the text may begin, 3 pixels further on), -1 for no outline list or row; the
+ * second in 1, 0 for none.
+ */
+VORNAPI int WINAPI olbPaintBitmap(HWND window, HDC context, LONG row, const RECT* place);
+VORNAPI BOOL WINAPI olbPaintLines(HWND window, HDC context, LONG row, const RECT* place);
+
+/*
  * The procedure that the list gives its timers: 101, which carries a selection on while the mouse
  * is held outside the list, and 100, which starts anew at each tick. Hosts have no need to call it.
  */

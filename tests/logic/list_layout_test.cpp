@@ -95,6 +95,7 @@ TEST_F(ListLayout, TheLastPageEndsWithTheLastRow) {
     Layout layout = Make({100, 41}, kStyleOwnerDrawVariable);
     EXPECT_EQ(LastTop(layout), 3u) << "30 + 5 + 5 fit, with another 10 no more";
     EXPECT_EQ(PageRows(layout), 3u);
+    EXPECT_EQ(LastTop(Make({100, 40}, kStyleOwnerDrawVariable)), 3u) << "they just fit";
     EXPECT_EQ(LastTop(Make({100, 29}, kStyleOwnerDrawVariable)), 4u);
     EXPECT_EQ(LastTop(Make({100, 45})), 2u) << "four rows of 10";
     EXPECT_EQ(LastTop(Make({100, 60})), 0u);

@@ -1,7 +1,7 @@
 // Outline lists whose parent does its worst inside the messages that they send.
 #include "core/memory.h"
 #include "core/window_win.h"
-#include "hierlist/list_record.h"
+#include "hierlist/list_record_win.h"
 #include "hierlist/list_scroll_win.h"
 #include "hierlist/list_view_win.h"
 #include "tests/windows/support/abuse.h"

@@ -1,5 +1,5 @@
 // What outline lists ask of a parent that draws their rows, and tell it.
-#include "hierlist/list_record.h"
+#include "hierlist/list_record_win.h"
 #include "hierlist/list_view_win.h"
 #include "tests/windows/support/outline_list.h"
 
@@ -226,6 +226,62 @@ TEST_F(HierListOwnerDraw, WhatTheParentDrawsStaysInTheRow) {
     EXPECT_EQ(pixels.Count({0, 0, kOutlineWidth, 18}, RGB(200, 0, 0)), kOutlineWidth * 18);
     EXPECT_EQ(pixels.Count({0, 18, kOutlineWidth, 36}, RGB(200, 1, 0)), kOutlineWidth * 18);
     EXPECT_EQ(pixels.At(5, 40), GetSysColor(COLOR_WINDOW));
+}
+
+TEST_F(HierListOwnerDraw, PartsAreDrawnForTheParentAsTheListWould) {
+    // A list that draws itself, and one whose parent draws the same with the functions for it.
+    const auto fill = [](HWND list) {
+        olbShowLines(list, TRUE);
+        olbEnableMicroBitmaps(list, TRUE);
+        HOLBITEM parent = olbAddChildStringEx(list, nullptr, "a");
+        olbAddChildStringEx(list, parent, "b");
+        olbAddChildStringEx(list, nullptr, "c");
+        olbOpenItem(list, 0);
+    };
+    HWND own = Create();
+    fill(own);
+    const test::Pixels expected = test::PixelsOf(own);
+    DestroyWindow(own);
+    int behind = 0;
+    draw = [&](const DRAWITEMSTRUCT& question) {
+        const int row = static_cast<int>(question.itemID);
+        olbPaintLines(question.hwndItem, question.hDC, row, &question.rcItem);
+        behind = olbPaintBitmap(question.hwndItem, question.hDC, row, &question.rcItem);
+        RECT rect = question.rcItem;
+        rect.left = behind + 3;
+        SetBkMode(question.hDC, TRANSPARENT);
+        DrawTextA(question.hDC, reinterpret_cast<const char*>(question.itemData), -1, &rect,
+                  DT_SINGLELINE | DT_VCENTER);
+    };
+    HWND list = Create(LBS_OWNERDRAWFIXED | LBS_HASSTRINGS);
+    fill(list);
+    EXPECT_EQ(test::Difference(expected, test::PixelsOf(list)), "");
+    EXPECT_EQ(behind, 36) << "20 for the box, 16 for the picture";
+    draw = nullptr;
+}
+
+TEST_F(HierListOwnerDraw, PartsStandOnTheParentsGround) {
+    HWND list = Create();
+    olbAddString(list, "a");
+    const RECT row = {0, 0, 100, 18};
+    const COLORREF ground = RGB(1, 200, 3);
+    const test::Pixels pixels = test::Drawing(100, 18, ground, [&](HDC context) {
+        EXPECT_EQ(olbPaintBitmap(list, context, 0, &row), 16);
+        EXPECT_EQ(olbPaintBitmap(list, context, 1, &row), -1) << "no such row";
+        EXPECT_EQ(olbPaintBitmap(list, context, 0, nullptr), -1);
+        EXPECT_EQ(olbPaintBitmap(host.window(), context, 0, &row), -1);
+        EXPECT_EQ(olbPaintLines(list, context, 1, &row), 0);
+        EXPECT_EQ(olbPaintLines(list, context, 0, nullptr), 0);
+        EXPECT_EQ(olbPaintLines(nullptr, context, 0, &row), 0);
+        EXPECT_EQ(olbPaintLines(list, context, 0, &row), 1) << "none are shown";
+    });
+    EXPECT_EQ(pixels.At(0, 1), ground);
+    EXPECT_EQ(pixels.At(2, 4), RGB(0, 0, 0)) << "the card's corner";
+    EXPECT_EQ(pixels.Count({16, 0, 100, 18}, ground), 84 * 18);
+    olbEnableBitmaps(list, FALSE);
+    test::Drawing(100, 18, ground, [&](HDC context) {
+        EXPECT_EQ(olbPaintBitmap(list, context, 0, &row), 0) << "nothing to draw";
+    });
 }
 
 TEST_F(HierListOwnerDraw, TheParentComparesValues) {

@@ -1,6 +1,6 @@
 // What outline lists look like in states that take more than the public functions to reach.
 #include "core/memory.h"
-#include "hierlist/list_record.h"
+#include "hierlist/list_record_win.h"
 #include "hierlist/list_scroll_win.h"
 #include "hierlist/list_view_win.h"
 #include "tests/windows/support/outline_list.h"
@@ -209,6 +209,33 @@ TEST_F(HierListLook, TheParentsBrushIsUsedUnlessItIsNone) {
     RedrawRows(list);
     EXPECT_EQ(PixelsOf(list).At(50, 50), GetSysColor(COLOR_WINDOW)) << "no brush any more";
     host.answer = nullptr;
+}
+
+TEST_F(HierListLook, DottedLinesStayInStepWhenRowsAreOfOddHeight) {
+    HWND list = Create(WS_VSCROLL);
+    olbShowLines(list, TRUE);
+    olbEnableMicroBitmaps(list, TRUE);
+    AddRows(list, 20);
+    In(list)->options.rowHeight = 19;
+    UpdateBars(list);
+    RedrawRows(list);
+    for (int lines = 0; lines < 3; ++lines) {
+        SendMessageA(list, WM_VSCROLL, SB_LINEDOWN, 0);
+        const Pixels shown = PixelsOf(list);
+        RedrawRows(list);
+        EXPECT_EQ(Difference(PixelsOf(list), shown), "") << lines;
+    }
+}
+
+TEST_F(HierListLook, ColumnsBeginElsewhereInAnotherHeight) {
+    HWND list = Create(LBS_MULTICOLUMN | LBS_OWNERDRAWVARIABLE | LBS_HASSTRINGS);
+    AddRows(list, 12);
+    EXPECT_EQ(ColumnCount(LayoutOf(*In(list))), 3u) << "5 + 5 + 2";
+    SetWindowPos(list, nullptr, 0, 0, kOutlineWidth, 4 * kRowHeight, SWP_NOMOVE | SWP_NOZORDER);
+    EXPECT_EQ(LinesPerColumn(LayoutOf(*In(list))), 4u);
+    EXPECT_EQ(RowRect(LayoutOf(*In(list)), 9).top, kRowHeight) << "4 + 4 + the second";
+    SetWindowPos(list, nullptr, 0, 0, kOutlineWidth, 12 * kRowHeight, SWP_NOMOVE | SWP_NOZORDER);
+    EXPECT_EQ(ColumnCount(LayoutOf(*In(list))), 1u);
 }
 
 TEST_F(HierListLook, AListWhoseStyleTurnsToColumnsBeginsWithTheFirstRow) {

@@ -3,7 +3,7 @@
 #pragma once
 
 #include "core/window_win.h"
-#include "hierlist/list_record.h"
+#include "hierlist/list_record_win.h"
 #include "hierlist/list_view_win.h"
 #include "tests/windows/support/host_window.h"
 
