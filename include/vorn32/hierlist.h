@@ -486,8 +486,7 @@ VORNAPI LONG WINAPI olbGetSel(HWND window, LONG row); /* 1, 0, or -1 for no row;
  */
 VORNAPI LONG WINAPI olbSelectString(HWND window, LONG start, LPCSTR text);
 
-/* The row that a range with Shift starts from, and the row of the keyboard. Setting results in 0.
- */
+/* Where a range with Shift starts, and the row of the keyboard. Setting results in 0. */
 VORNAPI LONG WINAPI olbSetAnchorIndex(HWND window, LONG row); /* -1: none */
 VORNAPI LONG WINAPI olbGetAnchorIndex(HWND window);
 VORNAPI LONG WINAPI olbSetCaretIndex(HWND window, LONG row);
