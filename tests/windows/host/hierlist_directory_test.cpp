@@ -17,7 +17,6 @@ using vorn::test::PaintsBy;
 using vorn::test::Spy;
 using Texts = std::vector<std::string>;
 
-
 class HierListDirectory : public OutlineListTest {
 protected:
     Folder folder;
@@ -286,8 +285,8 @@ TEST_F(HierListDirectory, ListsADriveWithAllBelow) {
     EXPECT_EQ(olbGetVisibleCount(list), 1) << "closed";
     EXPECT_EQ(PictureOf(list, 0), 3);
     olbOpenAll(list, -1);
-    EXPECT_EQ(TextsOf(list), (Texts{drive.Root(), "empty", "full", "deep", "x", "in.exe",
-                                    "top.txt"}));
+    EXPECT_EQ(TextsOf(list),
+              (Texts{drive.Root(), "empty", "full", "deep", "x", "in.exe", "top.txt"}));
     EXPECT_EQ(olbQueryLevel(list, 4), 3);
     char path[256];
     EXPECT_STREQ(olbGetFullPath(list, 4, path), (drive.Root() + "full\\deep\\x").c_str());
