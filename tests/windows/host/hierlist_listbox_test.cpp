@@ -118,6 +118,8 @@ std::string StateOf(HWND list) {
 
 class HierListListBox : public OutlineListTest {
 protected:
+    void SetUp() override { ShowWindow(host.window(), SW_HIDE); } // thousands of lists are made
+
     // Six rows, of which five are in view, with two selected where that may be.
     HWND Fill(const char* className, DWORD style) {
         HWND list = host.Create(className, style | LBS_NOTIFY | LBS_NOINTEGRALHEIGHT | WS_VSCROLL,
