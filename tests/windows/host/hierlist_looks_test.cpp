@@ -210,7 +210,7 @@ TEST_F(HierListLooks, ColumnsBeginAtTheLeft) {
     EXPECT_EQ(olbSetColumns(list, 4), TRUE);
     EXPECT_EQ(olbGetTopIndex(list), 0);
     RECT rect{};
-    EXPECT_EQ(olbGetItemRect(list, 0, &rect), 0);
+    EXPECT_EQ(olbGetItemRect(list, 0, &rect), 1);
     EXPECT_EQ(rect.left, 0);
     EXPECT_EQ(rect.right, 30);
 }

@@ -139,7 +139,7 @@ const Case kCases[] = {
     NUMBER(1351, "11", kAsks, 0, t.b, olbGetItemDataEx(t.list, t.b)),
     NUMBER(1352, "18", kAsks, 1, 0, olbGetItemHeight(t.list, 1)),
     NUMBER(1353, "18", kAsks, 0, t.b, olbGetItemHeightEx(t.list, t.b)),
-    NUMBER(1354, "0 (0,18)", kAsks, 2, &t.rect, olbGetItemRect(t.list, 2, &t.rect)),
+    NUMBER(1354, "1 (0,18)", kAsks, 2, &t.rect, olbGetItemRect(t.list, 2, &t.rect)),
     DOES(1355, "0 \\", kAsks, 0, t.buffer, olbGetPathSeparator(t.list, t.buffer)),
     NUMBER(1356, "1", kAsks, 1, 0, olbGetSel(t.list, 1)),
     NUMBER(1357, "1 [1,-5]", kAsksX, 3, t.rows, olbGetSelItems(t.list, 3, t.rows)),

@@ -115,7 +115,7 @@ TEST_F(HierListTexts, HaveTheHeightOfAllRows) {
     EXPECT_EQ(olbSetItemHeightEx(list, nullptr, 31), 0);
     EXPECT_EQ(olbGetItemHeightEx(list, olbIndexToHandle(list, 0)), 31);
     RECT rect{};
-    EXPECT_EQ(olbGetItemRect(list, 0, &rect), 0);
+    EXPECT_EQ(olbGetItemRect(list, 0, &rect), 1);
     EXPECT_EQ(rect.bottom, 31);
     EXPECT_EQ(olbSetItemHeight(list, -1, 0), 0);
     EXPECT_EQ(olbGetItemHeight(list, -1), 1) << "no row is lower than a pixel";
@@ -138,7 +138,7 @@ TEST_F(HierListTexts, HaveHeightsOfTheirOwn) {
     EXPECT_EQ(olbSetItemHeight(list, 0, 12), 0);
     EXPECT_EQ(olbSetItemHeightEx(list, second, 13), 0);
     RECT rect{};
-    EXPECT_EQ(olbGetItemRect(list, 1, &rect), 0);
+    EXPECT_EQ(olbGetItemRect(list, 1, &rect), 1);
     EXPECT_EQ(rect.top, 12);
     EXPECT_EQ(rect.bottom, 25);
     EXPECT_EQ(olbSetItemHeight(list, -1, 40), 0);
