@@ -2,6 +2,7 @@
 //
 //   gallery                          shows it
 //   gallery --shot FILE [PAGE]       writes a bitmap of all pages, or of one, and ends
+//   gallery --shot FILE popup        the same of the date edit's dialog
 #include "page.h"
 #include "shot.h"
 
@@ -143,6 +144,26 @@ int RunGallery(int show) {
     return 0;
 }
 
+// The dialog that a date edit drops down, without being modal. What it is given is in the date
+// edit's extra bytes.
+int WritePopupShot(const std::string& file) {
+    HWND owner = CreateWindowExA(0, "STATIC", "", WS_POPUP, 0, 0, 200, 40, nullptr, nullptr,
+                                 GetModuleHandleA(nullptr), nullptr);
+    HWND dateEdit = Add(owner, VORN_DATEEDIT_CLASS, "", VDTS_CALENDAR, {0, 0, 160, 28});
+    const DtDate date = {12, 25, 1995};
+    dtSetDate(dateEdit, &date);
+    constexpr int kRecordOffset = 8;
+    constexpr WORD kDialog = 110;
+    HWND dialog =
+        CreateDialogParamA(GetModuleHandleA("VORN32.dll"), MAKEINTRESOURCEA(kDialog), owner,
+                           CalendarProc, GetWindowLongPtrA(dateEdit, kRecordOffset));
+    Shot shot;
+    shot.Add(dialog);
+    DestroyWindow(dialog);
+    DestroyWindow(owner);
+    return shot.Write(file) ? 0 : 1;
+}
+
 // The pages whose name was given, or all.
 int WriteShot(const std::string& file, const std::string& name) {
     Shot shot;
@@ -163,7 +184,9 @@ int WriteShot(const std::string& file, const std::string& name) {
 int WINAPI WinMain(HINSTANCE, HINSTANCE, LPSTR, int show) {
     gallery::RegisterClasses();
     if (__argc >= 3 && std::string(__argv[1]) == "--shot") {
-        return gallery::WriteShot(__argv[2], __argc > 3 ? __argv[3] : "");
+        const std::string page = __argc > 3 ? __argv[3] : "";
+        return page == "popup" ? gallery::WritePopupShot(__argv[2])
+                               : gallery::WriteShot(__argv[2], page);
     }
     return gallery::RunGallery(show);
 }
