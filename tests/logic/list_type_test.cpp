@@ -74,7 +74,7 @@ TEST(ListSearch, WithoutAStartTheTopIsSearchedFromItsFirst) {
 
 TEST(ListSearch, FindsValues) {
     ListHost list(kStyleOwnerDrawFixed);
-    for (const std::uintptr_t value : {7, 8, 9}) {
+    for (const std::uintptr_t value : {7U, 8U, 9U}) {
         AddChild(list.outline, nullptr, reinterpret_cast<const char*>(value));
     }
     const auto find = [&](std::uint32_t start, std::uintptr_t value) {
