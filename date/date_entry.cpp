@@ -62,7 +62,12 @@ void LeaveFocus(DateEntry& entry) {
 }
 
 void KeepCaretInText(DateEntry& entry) {
-    KeepInText(entry.caret, FieldMapOf(entry.date).length);
+    const edit::FieldMap map = FieldMapOf(entry.date);
+    const std::uint16_t before = entry.caret.index;
+    KeepInText(entry.caret, map.length);
+    if (entry.caret.index != before) {
+        entry.caret.field = FieldAt(map, entry.caret.index);
+    }
 }
 
 void FinishChange(edit::Actions& actions, DateEntry& entry, edit::ActionKind repaint) {

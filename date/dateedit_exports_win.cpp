@@ -66,8 +66,9 @@ extern "C" void WINAPI dtSetEditParams(HWND window, const DtEditParams* params) 
     if (record == nullptr) {
         return;
     }
+    const std::int32_t wasNull = record->entry.date.null;
     SetEditParams(record->entry, wanted, takeDate, Today(), kUserProfile);
-    if (takeDate) {
+    if (takeDate || record->entry.date.null != wasNull) {
         ShowNewDate(window);
     } else {
         PlaceCaret(kDateKind, window, edit::Told::No);

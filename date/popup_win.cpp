@@ -144,9 +144,11 @@ void OnCommand(HWND dialog, WPARAM wParam) {
 
 // ---- Beginning, painting, end ----
 
-// A date without any number opens on today, and is none until the user chooses.
+// No date opens on today, and stays none until the user chooses; but the numbers that hosts say no
+// date with go to the calendar as they are.
 Date DateToOpenOn(HeldDate& held) {
-    if (held.value == Date{}) {
+    constexpr Date kNoDateOfHosts = {9, 0, 0};
+    if (held.value == Date{} || (held.null != 0 && held.value != kNoDateOfHosts)) {
         held.value = Today();
         held.null = 1;
     }

@@ -99,6 +99,7 @@ OlbItem* AddDrive(Outline& outline, const Drive& drive) {
     }
     const Watch watch(outline, item);
     SetBitmapIndex(outline, item, drive.picture);
+    TellRedraw(outline, Redraw::Row, HandleToIndex(item));
     return watch.Item() != nullptr ? item : NoItem();
 }
 

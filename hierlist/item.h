@@ -75,7 +75,9 @@ inline OlbItem* NoItem() {
 
 // Whether a handle may be used. That one was freed cannot be told.
 inline bool IsItem(const OlbItem* item) {
-    return item != nullptr && item != NoItem() && (item->marks & kMarkDying) == 0;
+    constexpr std::uintptr_t kLastNumber = 0xFFFF; // up to here it is a number and no address
+    return reinterpret_cast<std::uintptr_t>(item) > kLastNumber && item != NoItem() &&
+           (item->marks & kMarkDying) == 0;
 }
 
 // What the platform's comparison of texts is spared by, see Callbacks::sortKey; null without one.

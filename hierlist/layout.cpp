@@ -194,8 +194,10 @@ std::int32_t OffsetToShow(const Layout& layout, std::uint32_t row) {
         return layout.offset;
     }
     const std::int32_t left = OffsetOfColumn(layout, row);
-    const std::int32_t right = left + layout.columnWidth - layout.client.width;
-    return layout.offset > left || right > left ? left : std::max(layout.offset, right);
+    const std::int64_t right = std::int64_t{left} + layout.columnWidth - layout.client.width;
+    return layout.offset > left || right > left
+               ? left
+               : static_cast<std::int32_t>(std::max<std::int64_t>(layout.offset, right));
 }
 
 std::uint32_t FirstColumnRow(const Layout& layout) {

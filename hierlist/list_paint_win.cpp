@@ -21,6 +21,7 @@ bool Meet(const Rect& first, const RECT& second) {
 
 // The brush that the parent gives; null when it gives none, or something else.
 HBRUSH AskBrush(HWND window, HDC context) {
+    const SavedContext saved(context);
     const LRESULT answer =
         SendMessageA(GetParent(window), WM_CTLCOLORLISTBOX, reinterpret_cast<WPARAM>(context),
                      reinterpret_cast<LPARAM>(window));
@@ -58,7 +59,9 @@ Ground GroundOf(HWND window, HDC context) {
 
 // A list without a caret has it in the first row that it shows, where the keys then begin.
 void GiveCaret(Record& record) {
-    OlbItem* top = IndexToHandle(record.outline, record.topIndex);
+    const Layout layout = LayoutOf(record);
+    OlbItem* top = IndexToHandle(record.outline,
+                                 layout.multiColumn ? FirstColumnRow(layout) : layout.topIndex);
     if (record.state.selection.caret == nullptr && top != nullptr) {
         PutCaret(record.state.selection, top);
     }

@@ -8,6 +8,7 @@
 
 #include <algorithm>
 #include <cstring>
+#include <limits>
 
 namespace vorn::hierlist {
 namespace {
@@ -128,10 +129,11 @@ int PaintPicture(const RowTools& tools, const OlbItem* item, const Rect& rect, i
     const Record& record = tools.record;
     const PictureChoice choice = ChoosePicture(item, record.options, record.strips);
     const Rect target = PictureRect(rect, record.options, left);
-    const Point source = {choice.index * record.options.picture.width, 0};
-    if (choice.index < 0) {
+    const std::int64_t start = std::int64_t{choice.index} * record.options.picture.width;
+    if (start < 0 || start > std::numeric_limits<std::int32_t>::max()) {
         return target.right;
     }
+    const Point source = {static_cast<std::int32_t>(start), 0};
     const bool isPrepared = tools.pictures != nullptr && choice.strip == record.strips.own &&
                             source.x < record.prepared.boxesLeft;
     if (isPrepared) {

@@ -5,6 +5,7 @@
 
 #include <algorithm>
 #include <cstdlib>
+#include <limits>
 
 namespace vorn::hierlist {
 namespace {
@@ -183,6 +184,14 @@ UINT LinesPerNotch(UINT setting) {
     return lines;
 }
 
+// Widths are the host's and may be of any size.
+void ScrollSidewaysBy(HWND window, std::int64_t pixels) {
+    constexpr std::int64_t kFurthest = std::numeric_limits<std::int32_t>::max();
+    const std::int64_t target = RecordOf<Record>(window)->offset + pixels;
+    ScrollSidewaysTo(window,
+                     static_cast<std::int32_t>(std::clamp<std::int64_t>(target, 0, kFurthest)));
+}
+
 } // namespace
 
 void UpdateBars(HWND window) {
@@ -299,7 +308,7 @@ void OnWheel(HWND window, WPARAM wParam) {
     if (layout.multiColumn) {
         // There are only columns to scroll: a notch is one.
         const std::int32_t notches = WheelLines(record->wheel, turned, 1);
-        ScrollSidewaysTo(window, record->offset - notches * layout.columnWidth);
+        ScrollSidewaysBy(window, -std::int64_t{notches} * layout.columnWidth);
         return;
     }
     const UINT setting = LinesPerNotch(SPI_GETWHEELSCROLLLINES);
@@ -319,7 +328,7 @@ void OnSideWheel(HWND window, WPARAM wParam) {
     const auto turned = static_cast<SHORT>(HIWORD(wParam));
     const UINT characters = LinesPerNotch(SPI_GETWHEELSCROLLCHARS);
     const std::int32_t count = WheelLines(record->sideWheel, turned, characters);
-    ScrollSidewaysTo(window, record->offset + count * std::max(record->options.averageWidth, 1));
+    ScrollSidewaysBy(window, std::int64_t{count} * std::max(record->options.averageWidth, 1));
 }
 
 } // namespace vorn::hierlist

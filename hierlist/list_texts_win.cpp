@@ -139,14 +139,14 @@ extern "C" LONG WINAPI olbGetItemHeight(HWND window, LONG row) {
 }
 
 extern "C" LONG WINAPI olbGetItemHeightEx(HWND window, HOLBITEM handle) {
-    const Record* record = RecordOf<Record>(window);
+    Record* record = RecordOf<Record>(window);
     if (record == nullptr) {
         return LB_ERR;
     }
     if (IsOfAllRows(*record, handle)) {
         return record->options.rowHeight;
     }
-    return IsItem(ToItem(handle)) ? ToItem(handle)->height : LB_ERR;
+    return IsItem(ToItem(handle)) ? HeightOf(LayoutOf(*record), ToItem(handle)) : LB_ERR;
 }
 
 extern "C" LONG WINAPI olbSetItemHeight(HWND window, LONG row, LONG height) {

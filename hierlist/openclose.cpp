@@ -81,9 +81,7 @@ void Open(Outline& outline, std::uint32_t row) {
         return;
     }
     Unfold(outline, item);
-    if ((outline.style & kStyleNoRedraw) == 0) {
-        TellRowsChanged(outline, Redraw::FromRow, row);
-    }
+    TellRowsChanged(outline, Redraw::FromRow, row);
 }
 
 void Close(Outline& outline, std::uint32_t row) {
@@ -92,9 +90,7 @@ void Close(Outline& outline, std::uint32_t row) {
         return;
     }
     CloseCounted(outline, item);
-    if ((outline.style & kStyleNoRedraw) == 0) {
-        TellRowsChanged(outline, Redraw::FromRow, row);
-    }
+    TellRowsChanged(outline, Redraw::FromRow, row);
 }
 
 void OpenAll(Outline& outline, OlbItem* item) {
@@ -112,9 +108,7 @@ void OpenAll(Outline& outline, OlbItem* item) {
             Unfold(outline, node->item);
         }
     }
-    if ((outline.style & kStyleNoRedraw) == 0) {
-        TellRowsChanged(outline, Redraw::All, kNoRow);
-    }
+    TellRowsChanged(outline, Redraw::All, kNoRow);
 }
 
 void CloseAll(Outline& outline) {
@@ -123,9 +117,7 @@ void CloseAll(Outline& outline) {
             CloseCounted(outline, item);
         }
     }
-    if ((outline.style & kStyleNoRedraw) == 0) {
-        TellRowsChanged(outline, Redraw::All, kNoRow);
-    }
+    TellRowsChanged(outline, Redraw::All, kNoRow);
 }
 
 } // namespace vorn::hierlist

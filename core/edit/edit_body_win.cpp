@@ -15,7 +15,8 @@ constexpr std::array<WORD, kDigitPictureCount> kDigitResources = {903, 913, 923}
 HBITMAP LoadInk(WORD id) {
     HBITMAP picture = LoadPicture(id);
     BITMAP size{};
-    if (picture == nullptr || GetObjectA(picture, sizeof size, &size) == 0) {
+    if (GetObjectA(picture, sizeof size, &size) == 0) {
+        DeleteObject(picture);
         return nullptr;
     }
     HBITMAP ink = CreateBitmap(size.bmWidth, size.bmHeight, 1, 1, nullptr);

@@ -7,6 +7,9 @@ namespace vorn::edit {
 
 void ShrinkToClient(const EditBody& body, LPARAM lParam) {
     auto* rect = reinterpret_cast<RECT*>(lParam);
+    if (rect == nullptr) {
+        return;
+    }
     *rect = ToPlatform(ClientWithin(FromPlatform(*rect), body.borderStyle));
 }
 

@@ -14,7 +14,8 @@
  * Before a change the control sends itself VTMM_OKTOCHANGE and after it VTMM_CHANGED. A host that
  * subclasses the control may answer 0 to the first and so refuse.
  *
- * Every function returns 0, tmIsNull 1, when the window is no time edit, and then writes nothing.
+ * Every function returns 0, tmIsNull and tmOkToChange 1, when the window is no time edit, and then
+ * writes nothing.
  */
 #ifndef VORN32_TIMEEDIT_H
 #define VORN32_TIMEEDIT_H

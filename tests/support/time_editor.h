@@ -1,6 +1,7 @@
 // A time to edit, and what a test says to it.
 #pragma once
 
+#include "core/text.h"
 #include "tests/support/edit_keys.h"
 #include "timeedit/time_format.h"
 #include "timeedit/time_keys.h"
@@ -24,8 +25,8 @@ inline Format TwentyFourHours(bool showSeconds = true) {
 }
 
 inline void SetSuffixes(Format& format, const char* am, const char* pm) {
-    std::strncpy(format.amText, am, kSuffixSize - 1);
-    std::strncpy(format.pmText, pm, kSuffixSize - 1);
+    CopyText(format.amText, am);
+    CopyText(format.pmText, pm);
 }
 
 inline Format TwelveHours(bool showSeconds = true, const char* am = "AM", const char* pm = "PM") {

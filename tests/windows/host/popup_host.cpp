@@ -98,6 +98,20 @@ bool PopupTest::Open(HWND dateEdit, std::vector<Step> steps) {
     return running.seen;
 }
 
+INT_PTR PopupTest::ResultOf(HWND dateEdit, const Step& step) {
+    constexpr int kRecordOffset = 8;
+    Script running;
+    running.steps = {step};
+    script = &running;
+    const UINT_PTR timer = SetTimer(nullptr, 0, kStepMilliseconds, TakeStep);
+    const INT_PTR result =
+        DialogBoxParamA(GetModuleHandleA("VORN32.dll"), MAKEINTRESOURCEA(110), host.window(),
+                        CalendarProc, GetWindowLongPtrA(dateEdit, kRecordOffset));
+    KillTimer(nullptr, timer);
+    script = nullptr;
+    return result;
+}
+
 void PopupTest::Command(HWND dialog, int id, int code) {
     SendMessageA(dialog, WM_COMMAND, MAKEWPARAM(id, code),
                  reinterpret_cast<LPARAM>(GetDlgItem(dialog, id)));

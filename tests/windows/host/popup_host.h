@@ -28,6 +28,9 @@ protected:
     bool Open(HWND dateEdit, std::vector<Step> steps);
     bool Open(HWND dateEdit, const Step& step) { return Open(dateEdit, std::vector<Step>{step}); }
 
+    // The same for the dialog alone; what it ends with.
+    INT_PTR ResultOf(HWND dateEdit, const Step& step);
+
     static void Command(HWND dialog, int id, int code = 0);
     static void PressKey(WORD key); // as the keyboard does it
     static void Click(HWND dialog, int id);

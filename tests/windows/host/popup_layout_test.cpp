@@ -185,6 +185,16 @@ TEST_F(PopupLayout, MayHaveSystemButtonsWithTheSharedCaptions) {
     dtSetButtonText(dateEdit, 1, "&Cancel");
 }
 
+TEST_F(PopupLayout, SystemButtonsCanDoWithoutErasing) {
+    HWND dateEdit = Create(VDTS_NOERASE);
+    dtSetButtonStyle(dateEdit, 0);
+    EXPECT_TRUE(Open(dateEdit, [](HWND dialog) {
+        EXPECT_TRUE(IsWindowVisible(GetDlgItem(dialog, 1)));
+        EXPECT_FALSE(IsWindowVisible(GetDlgItem(dialog, 22)));
+        Command(dialog, IDCANCEL);
+    }));
+}
+
 TEST_F(PopupLayout, SystemButtonsDoTheSame) {
     HWND dateEdit = Create();
     dtSetButtonStyle(dateEdit, 0);

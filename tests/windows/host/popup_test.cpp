@@ -89,6 +89,50 @@ TEST_F(Popup, OpensOnTodayWithoutADateAndLeavesNoneWhenCancelled) {
     EXPECT_EQ(ChangesOf(host.TakeNotifications()), Codes{});
 }
 
+TEST_F(Popup, MakesADateOfZerosTodayAndNoneWhenItOpens) {
+    HWND dateEdit = Create();
+    const DtDate zeros = {0, 0, 0};
+    dtSetDate(dateEdit, &zeros);
+    EXPECT_FALSE(dtIsNull(dateEdit));
+    SYSTEMTIME now{};
+    GetSystemTime(&now);
+    EXPECT_TRUE(Open(dateEdit, [](HWND dialog) { Command(dialog, IDCANCEL); }));
+    EXPECT_TRUE(dtIsNull(dateEdit));
+    const DtDate held = DateOf(dateEdit);
+    EXPECT_EQ(std::tuple(held.year, held.month, held.day),
+              std::tuple(now.wYear, now.wMonth, now.wDay));
+    EXPECT_EQ(TextOf(dateEdit), "");
+}
+
+TEST_F(Popup, OpensOnTodayAfterTheUserDeletedTheDate) {
+    HWND dateEdit = Create();
+    SetFocus(dateEdit);
+    SendMessageA(dateEdit, EM_SETSEL, 0, -1);
+    SendMessageA(dateEdit, WM_CLEAR, 0, 0);
+    ASSERT_TRUE(dtIsNull(dateEdit));
+    SYSTEMTIME now{};
+    GetSystemTime(&now);
+    EXPECT_TRUE(Open(dateEdit, [&](HWND dialog) {
+        EXPECT_EQ(CalendarDate(dialog).year, now.wYear);
+        Command(dialog, IDCANCEL);
+    }));
+    EXPECT_TRUE(dtIsNull(dateEdit));
+}
+
+TEST_F(Popup, EndsWithItsResults) {
+    const std::pair<PopupTest::Step, INT_PTR> ways[] = {
+        {[](HWND dialog) { Command(dialog, IDOK); }, 1},
+        {[](HWND dialog) { Command(dialog, IDCANCEL); }, 2},
+        {[](HWND dialog) { Command(dialog, 22); }, 203},
+        {[](HWND dialog) { Command(dialog, 300, VCALN_DBLCLK); }, 1},
+    };
+    for (const auto& [way, expected] : ways) {
+        HWND dateEdit = Create();
+        EXPECT_EQ(ResultOf(dateEdit, way), expected);
+        DestroyWindow(dateEdit);
+    }
+}
+
 // {9, 0, 0} is how hosts say that there is none; the calendar gets it as it is.
 TEST_F(Popup, TakesTheNumbersOfNoDateLiterally) {
     HWND dateEdit = Create();

@@ -38,6 +38,34 @@ protected:
     }
 };
 
+// ---- The editing state ----
+
+TEST_F(TimeEdit, EditingStartsAnewWithATimeFromOutside) {
+    const std::function<void(HWND)> changes[] = {
+        [](HWND edit) { Set(edit, 7, 8, 9); },
+        [](HWND edit) { tmSetTimeString(edit, "7:08:09 AM"); },
+        [](HWND edit) { tmSetNull(edit); },
+        [](HWND edit) {
+            const int time[9] = {9, 8, 7};
+            SendPointer(edit, 3328, time);
+        },
+    };
+    for (const auto& change : changes) {
+        HWND edit = CreateFocused(1, 2, 3);
+        Send(edit, EM_SETSEL, 3, 5);
+        change(edit);
+        EXPECT_EQ(SelectionOf(edit), "0-0");
+        DestroyWindow(edit);
+    }
+}
+
+TEST_F(TimeEdit, EditingGoesOnWhenTheTimeIsTheSame) {
+    HWND edit = CreateFocused(1, 2, 3);
+    Send(edit, EM_SETSEL, 3, 5);
+    tmSetTimeString(edit, "1:02:03 AM");
+    EXPECT_EQ(SelectionOf(edit), "3-5");
+}
+
 // ---- Creation ----
 
 unsigned SecondsOfDay(const SYSTEMTIME& time) {
