@@ -21,11 +21,17 @@ void TakeFocus(HWND window) {
     }
 }
 
+// The edit may have become read-only while the button is held.
 void AskAndStep(HWND window) {
-    if (!IsOkToChange(kNumberKind, window)) {
+    const bool allowed = !RecordOf<Record>(window)->readOnly && IsOkToChange(kNumberKind, window);
+    Record* record = RecordOf<Record>(window);
+    if (record == nullptr) {
         return;
     }
-    Record* record = RecordOf<Record>(window);
+    if (!allowed) {
+        MessageBeep(MB_ICONHAND);
+        return;
+    }
     const SpinButton pressed = record->spin.pressed;
     if (pressed != SpinButton::None) {
         PerformEdit(kNumberKind, window, StepByMouse(record->entry, pressed == SpinButton::Up));

@@ -33,7 +33,7 @@ edit::FieldInk AskForInk(HWND window, HDC context, const edit::FieldInk& own) {
     if (IsSystemsAnswer(context, brush)) {
         return own;
     }
-    return {GetBkColor(context), GetTextColor(context), brush};
+    return {brush != nullptr ? GetBkColor(context) : own.background, GetTextColor(context), brush};
 }
 
 } // namespace

@@ -155,7 +155,10 @@ void PaintText(const Canvas& canvas, std::uint32_t alignment) {
     const SavedContext saved(canvas.context);
     SelectObject(canvas.context, canvas.body.font);
     const std::uint32_t length = LengthOf(canvas);
-    const std::uint32_t first = std::min<std::uint32_t>(canvas.body.caret->firstVisible, length);
+    // A text that is centred or at the right, without the focus, is not scrolled.
+    const bool isScrolled = canvas.body.focused || alignment == 0;
+    const std::uint32_t first =
+        isScrolled ? std::min<std::uint32_t>(canvas.body.caret->firstVisible, length) : 0;
     const std::int32_t left =
         canvas.body.focused
             ? canvas.area.left
