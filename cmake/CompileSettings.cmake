@@ -19,6 +19,14 @@ endif()
 add_library(vorn_library_settings INTERFACE)
 target_link_libraries(vorn_library_settings INTERFACE vorn_settings)
 target_compile_options(vorn_library_settings INTERFACE -fno-exceptions -fno-rtti)
+if(WIN32)
+  # What nothing calls is left out, and 32-bit Windows needs no tables to unwind by.
+  target_compile_options(vorn_library_settings INTERFACE -ffunction-sections -fdata-sections)
+  if(CMAKE_SIZEOF_VOID_P EQUAL 4)
+    target_compile_options(vorn_library_settings INTERFACE
+      -fno-asynchronous-unwind-tables -fno-unwind-tables)
+  endif()
+endif()
 
 if(VORN_SANITIZE)
   add_compile_options(-fsanitize=address,undefined -fno-sanitize=vptr

@@ -23,12 +23,14 @@ set(resource_inputs ${picture_bitmaps} ${CMAKE_SOURCE_DIR}/resources/fontselect.
 set_source_files_properties(resources/vorn32.rc PROPERTIES OBJECT_DEPENDS "${resource_inputs}")
 add_dependencies(VORN32 vorn_pictures)
 target_compile_definitions(VORN32 PRIVATE VORN32_BUILD)
+# The window halves wait for the system most of the time; small is what counts there.
+target_compile_options(VORN32 PRIVATE -Os)
 set_target_properties(VORN32 PROPERTIES
   PREFIX "" LINKER_LANGUAGE C LIBRARY_OUTPUT_DIRECTORY ${CMAKE_BINARY_DIR})
 target_link_options(VORN32 PRIVATE
   -s -static-libgcc
   -Wl,--dynamicbase,--nxcompat,--no-insert-timestamp,--no-seh
-  -Wl,--exclude-all-symbols)
+  -Wl,--exclude-all-symbols,--gc-sections)
 if(CMAKE_SIZEOF_VOID_P EQUAL 8)
   target_link_options(VORN32 PRIVATE -Wl,--high-entropy-va)
 endif()

@@ -21,15 +21,17 @@ void FreeProperty(HWND window, const char* name);
 template <class Value>
 bool StoreProperty(HWND window, const char* name, const Value& value) {
     static_assert(std::is_trivially_copyable_v<Value>);
-    return StoreProperty(window, name, &value, sizeof value);
+    constexpr std::uint16_t size = sizeof(Value);
+    return StoreProperty(window, name, &value, size);
 }
 
 // A value of zeros when there is none.
 template <class Value>
 Value LoadProperty(HWND window, const char* name) {
     static_assert(std::is_trivially_copyable_v<Value>);
+    constexpr std::uint16_t size = sizeof(Value);
     Value value{};
-    LoadProperty(window, name, &value, sizeof value);
+    LoadProperty(window, name, &value, size);
     return value;
 }
 

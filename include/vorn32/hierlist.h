@@ -320,26 +320,26 @@ VORNAPI HOLBITEM WINAPI olbFindStringEx(HWND window, HOLBITEM parent, LONG start
  * place, in order or not.
  */
 VORNAPI LONG WINAPI olbGetText(HWND window, LONG row, LPSTR buffer);
-VORNAPI LONG WINAPI olbGetTextEx(HWND window, HOLBITEM item, LPSTR buffer);
+VORNAPI LONG WINAPI olbGetTextEx(HWND window, HOLBITEM handle, LPSTR buffer);
 VORNAPI LONG WINAPI olbGetTextLength(HWND window, LONG row);
-VORNAPI LONG WINAPI olbGetTextLengthEx(HWND window, HOLBITEM item);
+VORNAPI LONG WINAPI olbGetTextLengthEx(HWND window, HOLBITEM handle);
 VORNAPI LONG WINAPI olbSetItemText(HWND window, LONG row, LPCSTR text);
-VORNAPI LONG WINAPI olbSetItemTextEx(HWND window, HOLBITEM item, LPCSTR text);
+VORNAPI LONG WINAPI olbSetItemTextEx(HWND window, HOLBITEM handle, LPCSTR text);
 
 /* A value of the host's. Setting results in 0. */
 VORNAPI LONG_PTR WINAPI olbGetItemData(HWND window, LONG row);
-VORNAPI LONG_PTR WINAPI olbGetItemDataEx(HWND window, HOLBITEM item);
+VORNAPI LONG_PTR WINAPI olbGetItemDataEx(HWND window, HOLBITEM handle);
 VORNAPI LONG WINAPI olbSetItemData(HWND window, LONG row, LONG_PTR data);
-VORNAPI LONG WINAPI olbSetItemDataEx(HWND window, HOLBITEM item, LONG_PTR data);
+VORNAPI LONG WINAPI olbSetItemDataEx(HWND window, HOLBITEM handle, LONG_PTR data);
 
 /*
  * The height in pixels, at least 1: of the item with LBS_OWNERDRAWVARIABLE, of all rows otherwise
  * and for -1, null and OLB_NOITEM. Setting results in 0.
  */
 VORNAPI LONG WINAPI olbGetItemHeight(HWND window, LONG row);
-VORNAPI LONG WINAPI olbGetItemHeightEx(HWND window, HOLBITEM item);
+VORNAPI LONG WINAPI olbGetItemHeightEx(HWND window, HOLBITEM handle);
 VORNAPI LONG WINAPI olbSetItemHeight(HWND window, LONG row, LONG height);
-VORNAPI LONG WINAPI olbSetItemHeightEx(HWND window, HOLBITEM item, LONG height);
+VORNAPI LONG WINAPI olbSetItemHeightEx(HWND window, HOLBITEM handle, LONG height);
 
 /*
  * The texts from the top down to the item with separators between them, in a buffer of 256
@@ -347,7 +347,7 @@ VORNAPI LONG WINAPI olbSetItemHeightEx(HWND window, HOLBITEM item, LONG height);
  * writes it and a NUL.
  */
 VORNAPI LPSTR WINAPI olbGetFullPath(HWND window, LONG row, LPSTR buffer);
-VORNAPI LPSTR WINAPI olbGetFullPathEx(HWND window, HOLBITEM item, LPSTR buffer);
+VORNAPI LPSTR WINAPI olbGetFullPathEx(HWND window, HOLBITEM handle, LPSTR buffer);
 VORNAPI void WINAPI olbSetPathSeparator(HWND window, char separator);
 VORNAPI void WINAPI olbGetPathSeparator(HWND window, LPSTR buffer);
 
@@ -359,7 +359,7 @@ VORNAPI void WINAPI olbGetPathSeparator(HWND window, LPSTR buffer);
  * end; those of items stay the host's.
  */
 VORNAPI HBITMAP WINAPI olbSetBitmaps(HWND window, LONG row, HBITMAP bitmap);
-VORNAPI HBITMAP WINAPI olbSetBitmapsEx(HWND window, HOLBITEM item, HBITMAP bitmap);
+VORNAPI HBITMAP WINAPI olbSetBitmapsEx(HWND window, HOLBITEM handle, HBITMAP bitmap);
 
 /*
  * Set which picture of the strip an item shows, and for -1, null or OLB_NOITEM those without one of
@@ -367,7 +367,7 @@ VORNAPI HBITMAP WINAPI olbSetBitmapsEx(HWND window, HOLBITEM item, HBITMAP bitma
  * before.
  */
 VORNAPI LONG WINAPI olbSetBitmapIndex(HWND window, LONG row, LONG index);
-VORNAPI LONG WINAPI olbSetBitmapIndexEx(HWND window, HOLBITEM item, LONG index);
+VORNAPI LONG WINAPI olbSetBitmapIndexEx(HWND window, HOLBITEM handle, LONG index);
 
 /*
  * The strip and the picture of a level below 20, for items without their own. The control owns the

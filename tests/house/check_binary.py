@@ -7,7 +7,7 @@ import sys
 
 from tree import ROOT, finish
 
-SYSTEM_DLLS = {"KERNEL32.dll", "USER32.dll", "GDI32.dll", "VERSION.dll", "MPR.dll", "msvcrt.dll"}
+SYSTEM_DLLS = {"KERNEL32.dll", "USER32.dll", "GDI32.dll", "VERSION.dll", "MPR.dll", "MPR.DLL", "msvcrt.dll"}
 MOST_BYTES = 256 * 1024
 NEEDED = {"DYNAMIC_BASE", "NX_COMPAT"}
 NEEDED_64 = NEEDED | {"HIGH_ENTROPY_VA"}
