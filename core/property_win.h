@@ -21,6 +21,7 @@ void FreeProperty(HWND window, const char* name);
 template <class Value>
 bool StoreProperty(HWND window, const char* name, const Value& value) {
     static_assert(std::is_trivially_copyable_v<Value>);
+    // NOLINTNEXTLINE(bugprone-sizeof-expression): the value may be a pointer
     constexpr std::uint16_t size = sizeof(Value);
     return StoreProperty(window, name, &value, size);
 }
@@ -29,6 +30,7 @@ bool StoreProperty(HWND window, const char* name, const Value& value) {
 template <class Value>
 Value LoadProperty(HWND window, const char* name) {
     static_assert(std::is_trivially_copyable_v<Value>);
+    // NOLINTNEXTLINE(bugprone-sizeof-expression): the value may be a pointer
     constexpr std::uint16_t size = sizeof(Value);
     Value value{};
     LoadProperty(window, name, &value, size);
