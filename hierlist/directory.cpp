@@ -108,8 +108,8 @@ OlbItem* AddDrive(Outline& outline, const Drive& drive) {
 // Goes through the entries that match, without the two that every folder has.
 class Search {
 public:
-    Search(const FileSystem& ofFiles, const char* specification) : files(ofFiles) {
-        handle = files.findFirst(files.context, specification, entry);
+    Search(const FileSystem& ofFiles, const char* pattern) : files(ofFiles) {
+        handle = files.findFirst(files.context, pattern, entry);
         found = handle != nullptr;
         SkipDots();
     }
@@ -158,7 +158,7 @@ OlbItem* AddEntry(Outline& outline, const FileSystem& files, OlbItem* parent,
 struct Descent {
     const FileSystem& files;
     std::uint32_t asked;
-    char path[kPathSize]; // of what is listed, with the specification at its end
+    char path[kPathSize]; // of what is listed, with the pattern at its end
 };
 
 // Makes the path that of a folder in it, or leaves it as it is when that would be too long.
@@ -228,12 +228,12 @@ OlbItem* ListDrives(Outline& outline, const FileSystem& files) {
 }
 
 OlbItem* ListFiles(Outline& outline, const FileSystem& files, std::uint32_t attributes,
-                   const char* specification) {
+                   const char* pattern) {
     OlbItem* last = NoItem();
     if (HoldsValues(outline)) {
         return last;
     }
-    for (Search search(files, specification); search.Found() != nullptr; search.Next()) {
+    for (Search search(files, pattern); search.Found() != nullptr; search.Next()) {
         if (!IsAskedFor(*search.Found(), attributes)) {
             continue;
         }

@@ -1,4 +1,4 @@
-// Fills an outline from the file system: with drives, with the entries that match a specification,
+// Fills an outline from the file system: with drives, with the entries that match a pattern,
 // or with all folders and files of a drive. Every text is in lower case.
 #pragma once
 
@@ -31,7 +31,7 @@ struct FileSystem {
     char (*currentDrive)(void* context);
 
     // The entries that match, in the platform's order. Null when there is none at all.
-    void* (*findFirst)(void* context, const char* specification, FileEntry& entry);
+    void* (*findFirst)(void* context, const char* pattern, FileEntry& entry);
     bool (*findNext)(void* context, void* search, FileEntry& entry);
     void (*findEnd)(void* context, void* search);
 
@@ -50,7 +50,7 @@ constexpr std::uint32_t kListExclusive = 0x8000; // only what shares an attribut
 OlbItem* ListDrives(Outline& outline, const FileSystem& files);
 
 OlbItem* ListFiles(Outline& outline, const FileSystem& files, std::uint32_t attributes,
-                   const char* specification);
+                   const char* pattern);
 
 // A drive of all its folders: 1 is A, 0 the current one. A folder is listed but not entered when it
 // is a link, which might lead back, or when what is in it would have a path of 256 characters.

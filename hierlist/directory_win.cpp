@@ -63,10 +63,10 @@ void Take(FileEntry& entry, const WIN32_FIND_DATAA& found) {
                    (found.dwReserved0 & (kPlatformTag | kNameSurrogate)) != kPlatformTag;
 }
 
-void* FindFirst(void* /*context*/, const char* specification, FileEntry& entry) {
+void* FindFirst(void* /*context*/, const char* pattern, FileEntry& entry) {
     const QuietErrors quiet;
     WIN32_FIND_DATAA found;
-    HANDLE search = FindFirstFileA(specification, &found);
+    HANDLE search = FindFirstFileA(pattern, &found);
     if (search == INVALID_HANDLE_VALUE) {
         return nullptr;
     }

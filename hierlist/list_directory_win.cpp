@@ -18,7 +18,7 @@ constexpr char kEverything[] = "*.*";
 using namespace vorn;
 using namespace vorn::hierlist;
 
-extern "C" LONG WINAPI olbDir(HWND window, DWORD attributes, LPCSTR specification) {
+extern "C" LONG WINAPI olbDir(HWND window, DWORD attributes, LPCSTR pattern) {
     Record* record = RecordOf<Record>(window);
     if (record == nullptr) {
         return LB_ERR;
@@ -26,11 +26,10 @@ extern "C" LONG WINAPI olbDir(HWND window, DWORD attributes, LPCSTR specificatio
     if ((attributes & DDL_DRIVES) != 0) {
         return RowOfHandle(ToHandle(ListDrives(record->outline, kPlatformFiles)));
     }
-    if (specification == nullptr) {
+    if (pattern == nullptr) {
         return LB_ERR;
     }
-    return RowOfHandle(
-        ToHandle(ListFiles(record->outline, kPlatformFiles, attributes, specification)));
+    return RowOfHandle(ToHandle(ListFiles(record->outline, kPlatformFiles, attributes, pattern)));
 }
 
 // Drawing is off meanwhile: a drive has many thousand folders.

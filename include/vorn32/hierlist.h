@@ -212,12 +212,12 @@ VORNAPI HOLBITEM WINAPI olbInsertStringEx(HWND window, HOLBITEM parent, WORD pos
 /*
  * Add what the file system has at the top level, each entry with the picture of its kind; olbDir
  * and olbDirEx in lower case. The attributes are those of LB_DIR (DDL_...). olbDir adds the drives
- * with DDL_DRIVES, otherwise what matches the specification, with DDL_EXCLUSIVE only what shares an
+ * with DDL_DRIVES, otherwise what matches the pattern, with DDL_EXCLUSIVE only what shares an
  * attribute; it results in the row of the last entry, -1 when there is none. olbDirEx adds a drive
  * (1 for A, 0 the current one) with all its folders below it, and results in its row; with
  * DDL_DRIVES it is olbDir. olbAddFile adds the one name as it is.
  */
-VORNAPI LONG WINAPI olbDir(HWND window, DWORD attributes, LPCSTR specification);
+VORNAPI LONG WINAPI olbDir(HWND window, DWORD attributes, LPCSTR pattern);
 VORNAPI LONG WINAPI olbDirEx(HWND window, DWORD attributes, LONG drive);
 VORNAPI LONG WINAPI olbAddFile(HWND window, LPCSTR name);
 

@@ -18,8 +18,8 @@ protected:
     Directory() { host.outline.compatibilityMode = 0; }
     ~Directory() override { EXPECT_EQ(files.openSearches, 0); }
 
-    OlbItem* List(std::uint32_t attributes, const char* specification = "*.*") {
-        return ListFiles(host.outline, files.System(), attributes, specification);
+    OlbItem* List(std::uint32_t attributes, const char* pattern = "*.*") {
+        return ListFiles(host.outline, files.System(), attributes, pattern);
     }
     OlbItem* Drives() { return ListDrives(host.outline, files.System()); }
     OlbItem* Tree(std::uint32_t drive, std::uint32_t attributes = 0) {

@@ -29,9 +29,9 @@ struct FakeFile {
 class FakeFiles {
 public:
     std::map<char, FakeDrive> drives;                     // by upper-case letter
-    std::map<std::string, std::vector<FakeFile>> matches; // by specification
+    std::map<std::string, std::vector<FakeFile>> matches; // by pattern
     char current = 'C';
-    std::vector<std::string> asked; // of which specifications, and of which network drives
+    std::vector<std::string> asked; // of which patterns, and of which network drives
     int openSearches = 0;
 
     FileSystem System() {
@@ -77,10 +77,10 @@ private:
     }
     static char CurrentDrive(void* context) { return Of(context).current; }
 
-    static void* FindFirst(void* context, const char* specification, FileEntry& entry) {
+    static void* FindFirst(void* context, const char* pattern, FileEntry& entry) {
         FakeFiles& files = Of(context);
-        files.asked.emplace_back(specification);
-        const auto found = files.matches.find(specification);
+        files.asked.emplace_back(pattern);
+        const auto found = files.matches.find(pattern);
         if (found == files.matches.end() || found->second.empty()) {
             return nullptr;
         }

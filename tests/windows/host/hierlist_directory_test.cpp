@@ -315,7 +315,7 @@ TEST_F(HierListDirectory, ListsTwentyLevels) {
     EXPECT_EQ(PictureOf(list, 21), 9);
 }
 
-// The path to list with its specification has 255 characters at most.
+// The path to list with its pattern has 255 characters at most.
 TEST_F(HierListDirectory, StopsWherePathsAreTooLong) {
     const FolderDrive drive(folder.path);
     // "x:\" and two folders of 120 with their backslashes are 245 characters, and 3 for "*.*".
