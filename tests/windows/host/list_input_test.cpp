@@ -70,17 +70,9 @@ protected:
         return selected + "|" + caret;
     }
 
-    static void UseKey(WORD key, bool up) {
-        INPUT input{};
-        input.type = INPUT_KEYBOARD;
-        input.ki.wVk = key;
-        input.ki.dwFlags = up ? KEYEVENTF_KEYUP : 0;
-        SendInput(1, &input, sizeof input);
-        PumpMessages();
-    }
     static void PressKey(WORD key) {
-        UseKey(key, false);
-        UseKey(key, true);
+        vorn::test::StrikeKey(key);
+        PumpMessages();
     }
     void ClickAt(int row) {
         MoveMouse(list, 100, row * 20 + 10);
@@ -150,10 +142,11 @@ TEST_F(ListInput, KeyboardSelectsAndSearches) {
     CreateList(LBS_EXTENDEDSEL, "abcdefgh");
     SetFocus(list);
     PressKey(VK_HOME);
-    UseKey(VK_SHIFT, false);
+    vorn::test::PushKey(VK_SHIFT);
     PressKey(VK_DOWN);
     PressKey(VK_DOWN);
-    UseKey(VK_SHIFT, true);
+    vorn::test::ReleaseKey(VK_SHIFT);
+    PumpMessages();
     EXPECT_TRUE(Becomes("a b c|c")) << Shown();
     SendMessageA(list, WM_CHAR, 'd', 0);
     EXPECT_EQ(Shown(), "d|d");

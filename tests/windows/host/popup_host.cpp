@@ -33,15 +33,6 @@ void CALLBACK TakeStep(HWND, UINT, UINT_PTR, DWORD) {
     }
 }
 
-void SendKey(WORD key, DWORD flags) {
-    INPUT input{};
-    input.type = INPUT_KEYBOARD;
-    input.ki.wVk = key;
-    input.ki.wScan = static_cast<WORD>(MapVirtualKeyA(key, MAPVK_VK_TO_VSC));
-    input.ki.dwFlags = flags;
-    SendInput(1, &input, sizeof input);
-}
-
 BOOL CALLBACK TakeIfPopup(HWND window, LPARAM found) {
     char title[40] = "";
     GetWindowTextA(window, title, sizeof title);
@@ -115,11 +106,6 @@ INT_PTR PopupTest::ResultOf(HWND dateEdit, const Step& step) {
 void PopupTest::Command(HWND dialog, int id, int code) {
     SendMessageA(dialog, WM_COMMAND, MAKEWPARAM(id, code),
                  reinterpret_cast<LPARAM>(GetDlgItem(dialog, id)));
-}
-
-void PopupTest::PressKey(WORD key) {
-    SendKey(key, 0);
-    SendKey(key, KEYEVENTF_KEYUP);
 }
 
 void PopupTest::Click(HWND dialog, int id) {

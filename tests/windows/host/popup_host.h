@@ -32,7 +32,6 @@ protected:
     INT_PTR ResultOf(HWND dateEdit, const Step& step);
 
     static void Command(HWND dialog, int id, int code = 0);
-    static void PressKey(WORD key); // as the keyboard does it
     static void Click(HWND dialog, int id);
 
     static DtDate DateOf(HWND dateEdit);

@@ -1,5 +1,6 @@
 // The dialog that a date edit drops down: its controls, its looks, and what it leaves behind.
 #include "tests/windows/host/popup_host.h"
+#include "tests/windows/support/input.h"
 #include "tests/windows/support/objects.h"
 #include "tests/windows/support/pixels.h"
 
@@ -13,6 +14,7 @@ using vorn::test::ObjectsLeftBy;
 using vorn::test::PixelsOf;
 using vorn::test::PopupTest;
 using vorn::test::PumpMessages;
+using vorn::test::StrikeKey;
 
 class PopupLayout : public PopupTest {};
 
@@ -215,7 +217,7 @@ TEST_F(PopupLayout, TabGoesThroughButtonsAndYear) {
         std::vector<int> stops;
         const Step look = [&](HWND) {
             stops.push_back(GetDlgCtrlID(GetFocus()));
-            PressKey(VK_TAB);
+            StrikeKey(VK_TAB);
         };
         EXPECT_TRUE(Open(dateEdit, {look, look, look, look, [&](HWND dialog) {
                                         stops.push_back(GetDlgCtrlID(GetFocus()));

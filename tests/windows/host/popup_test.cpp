@@ -16,6 +16,7 @@ using vorn::test::PopupTest;
 using vorn::test::PumpMessages;
 using vorn::test::SendMouse;
 using vorn::test::Spy;
+using vorn::test::StrikeKey;
 
 class Popup : public PopupTest {};
 
@@ -209,7 +210,7 @@ TEST_F(Popup, ErasesTheDate) {
 TEST_F(Popup, ChangesNothingWhenCancelled) {
     const PopupTest::Step ways[] = {
         [](HWND dialog) { Click(dialog, IDCANCEL); },
-        [](HWND) { PressKey(VK_ESCAPE); },
+        [](HWND) { StrikeKey(VK_ESCAPE); },
         [](HWND dialog) { PostMessageA(dialog, WM_SYSCOMMAND, SC_CLOSE, 0); },
         [](HWND dialog) { PostMessageA(dialog, WM_CLOSE, 0, 0); },
     };
@@ -227,7 +228,7 @@ TEST_F(Popup, ChangesNothingWhenCancelled) {
 TEST_F(Popup, ReturnAccepts) {
     HWND dateEdit = Create();
     EXPECT_TRUE(Open(dateEdit, {[](HWND dialog) { ShowDate(dialog, 2001, 2, 3); },
-                                [](HWND) { PressKey(VK_RETURN); }}));
+                                [](HWND) { StrikeKey(VK_RETURN); }}));
     EXPECT_EQ(ValueOf(dateEdit), "2/3/2001");
 }
 
@@ -237,7 +238,7 @@ TEST_F(Popup, ReturnInTheYearBoxAccepts) {
                                     ShowDate(dialog, 2001, 2, 3);
                                     SetFocus(GetDlgItem(dialog, 14));
                                 },
-                                [](HWND) { PressKey(VK_RETURN); }}));
+                                [](HWND) { StrikeKey(VK_RETURN); }}));
     EXPECT_EQ(ValueOf(dateEdit), "2/3/2001");
 }
 
@@ -334,7 +335,7 @@ TEST_F(Popup, ATypedYearIsTheDateEditsAtOnceAndStaysWhenCancelled) {
                                     ShowDate(dialog, 1995, 2, 3);
                                     SetFocus(GetDlgItem(dialog, 14));
                                     SendDlgItemMessageA(dialog, 14, EM_SETSEL, 3, 4);
-                                    PressKey('8');
+                                    StrikeKey('8');
                                 },
                                 [=](HWND dialog) {
                                     EXPECT_EQ(TextOf(GetDlgItem(dialog, 14)), "1998");

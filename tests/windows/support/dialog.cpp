@@ -1,5 +1,7 @@
 #include "tests/windows/support/dialog.h"
 
+#include "tests/windows/support/input.h"
+
 #include <algorithm>
 #include <cstring>
 #include <gtest/gtest.h>
@@ -14,15 +16,6 @@ constexpr int kMostTries = 300;
 
 constexpr short kItemWidth = 60; // in dialog units
 constexpr short kItemHeight = 14;
-
-void SendKey(WORD key, DWORD flags) {
-    INPUT input{};
-    input.type = INPUT_KEYBOARD;
-    input.ki.wVk = key;
-    input.ki.wScan = static_cast<WORD>(MapVirtualKeyA(key, MAPVK_VK_TO_VSC));
-    input.ki.dwFlags = flags;
-    SendInput(1, &input, sizeof input);
-}
 
 void SendButton(DWORD flags) {
     INPUT input{};
@@ -113,19 +106,11 @@ void ScriptedDialog::Do(std::function<void(HWND dialog)> act) {
 }
 
 void ScriptedDialog::PressKey(WORD key) {
-    Do([key](HWND) {
-        SendKey(key, 0);
-        SendKey(key, KEYEVENTF_KEYUP);
-    });
+    Do([key](HWND) { StrikeKey(key); });
 }
 
 void ScriptedDialog::PressShifted(WORD key) {
-    Do([key](HWND) {
-        SendKey(VK_SHIFT, 0);
-        SendKey(key, 0);
-        SendKey(key, KEYEVENTF_KEYUP);
-        SendKey(VK_SHIFT, KEYEVENTF_KEYUP);
-    });
+    Do([key](HWND) { StrikeKey(key, VK_SHIFT); });
 }
 
 void ScriptedDialog::Click(int item) {

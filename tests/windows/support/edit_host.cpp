@@ -1,5 +1,7 @@
 #include "tests/windows/support/edit_host.h"
 
+#include "tests/windows/support/input.h"
+
 #include <cstdio>
 #include <cstring>
 
@@ -32,30 +34,8 @@ std::string NameOf(WPARAM wParam) {
     }
 }
 
-void SendKey(WORD key, DWORD flags) {
-    INPUT input{};
-    input.type = INPUT_KEYBOARD;
-    input.ki.wVk = key;
-    input.ki.wScan = static_cast<WORD>(MapVirtualKeyA(key, MAPVK_VK_TO_VSC));
-    input.ki.dwFlags = flags;
-    SendInput(1, &input, sizeof input);
-}
-
-// The keys that are beside the numeric pad's; without this Shift would make them the pad's.
-bool IsExtended(WORD key) {
-    return (key >= VK_PRIOR && key <= VK_DOWN) || key == VK_INSERT || key == VK_DELETE;
-}
-
 void PressWith(WORD modifier, WORD key) {
-    const DWORD flags = IsExtended(key) ? KEYEVENTF_EXTENDEDKEY : 0;
-    if (modifier != 0) {
-        SendKey(modifier, 0);
-    }
-    SendKey(key, flags);
-    SendKey(key, flags | KEYEVENTF_KEYUP);
-    if (modifier != 0) {
-        SendKey(modifier, KEYEVENTF_KEYUP);
-    }
+    StrikeKey(key, modifier);
     PumpMessages();
 }
 
