@@ -47,11 +47,11 @@ void PressButton(HWND window) {
 }
 
 edit::Actions RunKeyOf(edit::EditBody& body, const edit::Key& key, bool allowed) {
-    return RunKey(static_cast<Record&>(body).entry, key, allowed, Today());
+    return RunKey(edit::RecordIn<Record>(body).entry, key, allowed, Today());
 }
 
 edit::FieldMap MapOf(const edit::EditBody& body) {
-    return FieldMapOf(static_cast<const Record&>(body).entry.date);
+    return FieldMapOf(edit::RecordIn<Record>(body).entry.date);
 }
 
 constinit const edit::FieldEdit kDateFields = {kDateKind, RunKeyOf, MapOf};

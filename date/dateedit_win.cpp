@@ -5,6 +5,7 @@
 #include "core/edit/edit_messages_win.h"
 #include "core/edit/edit_paint_win.h"
 #include "core/edit/edit_slices_win.h"
+#include "core/edit/field_edit_win.h"
 #include "core/profile_win.h"
 #include "core/window_win.h"
 #include "date/date_clipboard.h"
@@ -35,53 +36,41 @@ static_assert(VDTS_DIGITS == edit::kStyleDigits && VDTS_CELLS == edit::kStyleCel
               VDTS_READONLY == edit::kStyleReadOnly);
 static_assert(DT_DAY == kDay && DT_MONTH == kMonth && DT_YEAR == kYear);
 
-Record& RecordIn(edit::EditBody& body) {
-    return static_cast<Record&>(body);
-}
-
-const Record& RecordIn(const edit::EditBody& body) {
-    return static_cast<const Record&>(body);
-}
-
-edit::EditBody* BodyOf(HWND window) {
-    return RecordOf<Record>(window);
-}
-
 void WriteText(const edit::EditBody& body, edit::TextBuffer& buffer) {
-    FormatEditText(buffer, RecordIn(body).entry.date);
+    FormatEditText(buffer, edit::RecordIn<Record>(body).entry.date);
 }
 
 bool IsNull(const edit::EditBody& body) {
-    return RecordIn(body).entry.date.null != 0;
+    return edit::RecordIn<Record>(body).entry.date.null != 0;
 }
 
 void EnterFocus(edit::EditBody& body) {
-    EnterFocus(RecordIn(body).entry);
+    EnterFocus(edit::RecordIn<Record>(body).entry);
 }
 
 void LeaveFocus(edit::EditBody& body) {
-    LeaveFocus(RecordIn(body).entry);
+    LeaveFocus(edit::RecordIn<Record>(body).entry);
 }
 
 void FollowCaret(edit::EditBody& body) {
-    DateEntry& entry = RecordIn(body).entry;
-    entry.caret.field = FieldAt(FieldMapOf(entry.date), entry.caret.index);
+    DateEntry& entry = edit::RecordIn<Record>(body).entry;
+    edit::FollowCaretWithField(entry.caret, FieldMapOf(entry.date));
 }
 
 edit::Actions ClearSelected(edit::EditBody& body) {
     edit::Actions actions;
-    ClearSelection(actions, RecordIn(body).entry);
+    ClearSelection(actions, edit::RecordIn<Record>(body).entry);
     return actions;
 }
 
 edit::Actions TakeText(edit::EditBody& body, const char* text) {
     edit::Actions actions;
-    PasteText(actions, RecordIn(body).entry, text, Today());
+    PasteText(actions, edit::RecordIn<Record>(body).entry, text, Today());
     return actions;
 }
 
 void PaintButton(HDC context, const edit::EditBody& body, const Rect& rect) {
-    const Record& record = RecordIn(body);
+    const Record& record = edit::RecordIn<Record>(body);
     DrawSlices(context, rect, record.buttonPressed ? record.pressedButton : record.normalButton,
                kButtonColumns, kButtonRows);
 }
@@ -261,8 +250,8 @@ LRESULT OnOwnMessage(HWND window, UINT message, WPARAM wParam, LPARAM lParam) {
 } // namespace
 
 constinit const edit::EditKind kDateKind = {
-    BodyOf,        WriteText, IsNull,      EnterFocus,   LeaveFocus,  FollowCaret,
-    ClearSelected, TakeText,  PaintButton, kCompactness, kBorderBits,
+    edit::BodyOf<Record>, WriteText, IsNull,      EnterFocus,   LeaveFocus,  FollowCaret,
+    ClearSelected,        TakeText,  PaintButton, kCompactness, kBorderBits,
 };
 
 BOOL ShowNewDate(HWND window) {

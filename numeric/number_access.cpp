@@ -69,8 +69,8 @@ edit::Actions Write(NumberEntry& entry, double value, Written as) {
     const double kept = ClampToRange(settings, value);
     const bool floating = as == Written::Floating || as == Written::UnsignedLong;
     char text[kNumberTextSize];
-    if (floating && !IsIntegerKind(settings.formatKind)) {
-        WriteFloating(text, kept);
+    if (floating) {
+        WriteFloating(text, IsIntegerKind(settings.formatKind) ? std::trunc(kept) : kept);
     } else {
         WriteInteger(text, kept, as == Written::UnsignedInteger || as == Written::UnsignedLong);
     }

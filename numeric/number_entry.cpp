@@ -10,19 +10,16 @@
 #include <cstring>
 
 namespace vorn::numeric {
-namespace {
+
+std::int32_t LengthOf(const NumberEntry& entry) {
+    return static_cast<std::int32_t>(std::strlen(entry.text));
+}
 
 void KeepPoint(NumberEntry& entry) {
     const char decimalChar = DecimalCharOf(entry.settings);
     if (decimalChar != '\0') {
         std::replace(entry.text, entry.text + LengthOf(entry), decimalChar, '.');
     }
-}
-
-} // namespace
-
-std::int32_t LengthOf(const NumberEntry& entry) {
-    return static_cast<std::int32_t>(std::strlen(entry.text));
 }
 
 bool KeepsIntegers(const NumberSettings& settings) {

@@ -44,6 +44,9 @@ double ValueOf(const NumberEntry& entry);
 // whose general form has an exponent, keeps its first digit alone.
 void WriteEdited(const NumberSettings& settings, double value, std::span<char> text);
 
+// Makes the settings' decimal character "." in the text; for settings that have changed.
+void KeepPoint(NumberEntry& entry);
+
 // The text that a control is created with; null stands for "0".
 void StoreCreationText(NumberEntry& entry, const char* text);
 

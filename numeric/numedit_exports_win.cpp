@@ -76,6 +76,7 @@ extern "C" LRESULT WINAPI nmSetEditParams(HWND window, const NmEditParams* param
     }
     NumberSettings& settings = record->entry.settings;
     SetEditParams(settings, std::bit_cast<EditParams>(*params), kUserProfile);
+    KeepPoint(record->entry);
     std::uint32_t style = StyleOf(window);
     if (AdoptNumberDisplay(settings, style) != 0) {
         TakeNumberDisplay(*record, settings.displayStyle);

@@ -39,7 +39,7 @@ edit::FieldInk AskForInk(HWND window, HDC context, const edit::FieldInk& own) {
 } // namespace
 
 void PaintSpinButtons(HDC context, const edit::EditBody& body, const Rect& rect) {
-    const Record& record = RecordIn(body);
+    const Record& record = edit::RecordIn<Record>(body);
     const bool up = record.spin.pressed == SpinButton::Up;
     const bool down = record.spin.pressed == SpinButton::Down;
     const std::int32_t left = rect.left + 1;

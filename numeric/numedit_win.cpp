@@ -28,17 +28,13 @@ static_assert(VNMN_TEXTCUT == kTextCut && kNumberTextSize == edit::kShownTextSiz
 
 constexpr std::uint32_t kNumberDisplay = 1;
 
-edit::EditBody* BodyOf(HWND window) {
-    return RecordOf<Record>(window);
-}
-
 void WriteText(const edit::EditBody& body, edit::TextBuffer& buffer) {
-    CopyText(buffer, RecordIn(body).entry.text);
+    CopyText(buffer, edit::RecordIn<Record>(body).entry.text);
 }
 
 // The text is formatted for as long as it is not edited.
 void WriteShown(const edit::EditBody& body, edit::TextBuffer& buffer) {
-    const NumberEntry& entry = RecordIn(body).entry;
+    const NumberEntry& entry = edit::RecordIn<Record>(body).entry;
     if (body.focused && entry.settings.isNull == 0) {
         CopyText(buffer, entry.text);
         return;
@@ -49,26 +45,26 @@ void WriteShown(const edit::EditBody& body, edit::TextBuffer& buffer) {
 }
 
 void WriteCopied(const edit::EditBody& body, edit::TextBuffer& buffer) {
-    CopyNumberText(buffer, RecordIn(body).entry);
+    CopyNumberText(buffer, edit::RecordIn<Record>(body).entry);
 }
 
 bool IsNull(const edit::EditBody& body) {
-    return RecordIn(body).entry.settings.isNull != 0;
+    return edit::RecordIn<Record>(body).entry.settings.isNull != 0;
 }
 
 void KeepCaret(edit::EditBody& body) {
-    KeepCaretInText(RecordIn(body).entry);
+    KeepCaretInText(edit::RecordIn<Record>(body).entry);
 }
 
 edit::Actions ClearSelected(edit::EditBody& body) {
     edit::Actions actions;
-    ClearSelection(actions, RecordIn(body).entry);
+    ClearSelection(actions, edit::RecordIn<Record>(body).entry);
     return actions;
 }
 
 edit::Actions TakeText(edit::EditBody& body, const char* text) {
     edit::Actions actions;
-    PasteText(actions, RecordIn(body).entry, text);
+    PasteText(actions, edit::RecordIn<Record>(body).entry, text);
     return actions;
 }
 
@@ -146,6 +142,7 @@ LRESULT OnSettingsChanged(HWND window, const char* section) {
     Record* record = RecordOf<Record>(window);
     if (record != nullptr &&
         ReloadRegionalSettings(record->entry.settings, kUserProfile, section) != 0) {
+        KeepPoint(record->entry);
         Redraw(window);
         PlaceCaret(kNumberKind, window, edit::Told::No);
     }
@@ -212,7 +209,7 @@ bool AnswerInput(HWND window, UINT message, WPARAM wParam, LPARAM lParam) {
 } // namespace
 
 constinit const edit::EditKind kNumberKind = {
-    BodyOf,
+    edit::BodyOf<Record>,
     WriteText,
     IsNull,
     KeepCaret,
@@ -226,6 +223,7 @@ constinit const edit::EditKind kNumberKind = {
     WriteShown,
     WriteCopied,
     {12, 22},
+    false,
     false,
     false,
 };

@@ -31,12 +31,4 @@ void Draw(HWND window, const OffscreenPaint& offscreen);
 // Paints the spin buttons, and the line that parts them from the text.
 void PaintSpinButtons(HDC context, const edit::EditBody& body, const Rect& rect);
 
-inline Record& RecordIn(edit::EditBody& body) {
-    return static_cast<Record&>(body);
-}
-
-inline const Record& RecordIn(const edit::EditBody& body) {
-    return static_cast<const Record&>(body);
-}
-
 } // namespace vorn::numeric

@@ -25,58 +25,46 @@ static_assert(VTMS_DIGITS == edit::kStyleDigits && VTMS_CELLS == edit::kStyleCel
               VTMS_READONLY == edit::kStyleReadOnly);
 static_assert(kValueTextSize == edit::kShownTextSize);
 
-Record& RecordIn(edit::EditBody& body) {
-    return static_cast<Record&>(body);
-}
-
-const Record& RecordIn(const edit::EditBody& body) {
-    return static_cast<const Record&>(body);
-}
-
-edit::EditBody* BodyOf(HWND window) {
-    return RecordOf<Record>(window);
-}
-
 void WriteText(const edit::EditBody& body, edit::TextBuffer& buffer) {
-    CopyText(buffer, RecordIn(body).entry.time.valueText);
+    CopyText(buffer, edit::RecordIn<Record>(body).entry.time.valueText);
 }
 
 bool IsNull(const edit::EditBody& body) {
-    return RecordIn(body).entry.time.null != 0;
+    return edit::RecordIn<Record>(body).entry.time.null != 0;
 }
 
 void OnEnterFocus(edit::EditBody& body) {
-    EnterFocus(RecordIn(body).entry);
+    EnterFocus(edit::RecordIn<Record>(body).entry);
 }
 
 void OnLeaveFocus(edit::EditBody& body) {
-    LeaveFocus(RecordIn(body).entry);
+    LeaveFocus(edit::RecordIn<Record>(body).entry);
 }
 
 edit::FieldMap MapOf(const edit::EditBody& body) {
-    return FieldMapOf(RecordIn(body).entry.time);
+    return FieldMapOf(edit::RecordIn<Record>(body).entry.time);
 }
 
 void FollowCaret(edit::EditBody& body) {
-    FollowCaretWithField(RecordIn(body).entry.caret, MapOf(body));
+    FollowCaretWithField(edit::RecordIn<Record>(body).entry.caret, MapOf(body));
 }
 
 edit::Actions ClearSelected(edit::EditBody& body) {
     edit::Actions actions;
-    ClearSelection(actions, RecordIn(body).entry);
+    ClearSelection(actions, edit::RecordIn<Record>(body).entry);
     return actions;
 }
 
 edit::Actions TakeText(edit::EditBody& body, const char* text) {
     edit::Actions actions;
-    PasteText(actions, RecordIn(body).entry, text);
+    PasteText(actions, edit::RecordIn<Record>(body).entry, text);
     return actions;
 }
 
 void PaintNothing(HDC /*context*/, const edit::EditBody& /*body*/, const Rect& /*rect*/) {}
 
 edit::Actions RunKeyOf(edit::EditBody& body, const edit::Key& key, bool allowed) {
-    return RunKey(RecordIn(body).entry, key, allowed);
+    return RunKey(edit::RecordIn<Record>(body).entry, key, allowed);
 }
 
 constexpr edit::Compactness kCompactness = {3, 0};
@@ -87,9 +75,9 @@ constexpr edit::BorderBits kBorderBits = {
 
 } // namespace
 
-constinit const edit::EditKind kTimeEdit = {BodyOf,       WriteText,    IsNull,        OnEnterFocus,
-                                            OnLeaveFocus, FollowCaret,  ClearSelected, TakeText,
-                                            PaintNothing, kCompactness, kBorderBits};
+constinit const edit::EditKind kTimeEdit = {
+    edit::BodyOf<Record>, WriteText, IsNull,       OnEnterFocus, OnLeaveFocus, FollowCaret,
+    ClearSelected,        TakeText,  PaintNothing, kCompactness, kBorderBits};
 
 namespace {
 

@@ -13,6 +13,7 @@
 #include "core/gdi_win.h"
 #include "core/paint_win.h"
 #include "core/platform_win.h"
+#include "core/record_win.h"
 
 #include <array>
 
@@ -52,6 +53,20 @@ struct EditBody {
     PaintState paint;
 };
 
+// An EditKind's ways between a window, its body and the control's record.
+template <class Record>
+EditBody* BodyOf(HWND window) {
+    return RecordOf<Record>(window);
+}
+template <class Record>
+Record& RecordIn(EditBody& body) {
+    return static_cast<Record&>(body);
+}
+template <class Record>
+const Record& RecordIn(const EditBody& body) {
+    return static_cast<const Record&>(body);
+}
+
 // What one control's edits have of their own. The functions are called with the window's body.
 struct EditKind {
     // The body of the window's record; null when the window is no living control of the class.
@@ -90,8 +105,9 @@ struct EditKind {
     // The size of character cells in fonts that are not higher; else the font decides alone.
     Size cell{};
 
-    bool tellsScrolling = true;  // kHScroll and kMaxText
-    bool growsSameBorder = true; // a border that is set again comes on top of the one there is
+    bool tellsScrolling = true;      // kHScroll and kMaxText
+    bool growsSameBorder = true;     // a border that is set again comes on top of the one there is
+    bool tellsFocusLossFirst = true; // before the caret goes and the edit is repainted, else after
 };
 
 // Reads the style bits that all edits have, and takes the system font. The three styles that

@@ -112,7 +112,9 @@ void LoseFocus(const EditKind& kind, HWND window) {
     }
     body->focused = false;
     kind.leaveFocus(*body);
-    NotifyParent(window, kKillFocus);
+    if (kind.tellsFocusLossFirst) {
+        NotifyParent(window, kKillFocus);
+    }
     body = kind.bodyOf(window);
     // A host may have given the focus back.
     if (body != nullptr && !body->focused) {
@@ -121,6 +123,9 @@ void LoseFocus(const EditKind& kind, HWND window) {
         }
         body->caretHidden = false;
         Redraw(window);
+    }
+    if (!kind.tellsFocusLossFirst && kind.bodyOf(window) != nullptr) {
+        NotifyParent(window, kKillFocus);
     }
 }
 

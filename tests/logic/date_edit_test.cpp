@@ -186,6 +186,16 @@ TEST(DateEditDate, LeavesTheCaretInTheText) {
     EXPECT_EQ(entry.date.typedZero[0], 0);
 }
 
+TEST(DateEditDate, TakesTheFieldAlongWhenTheCaretHadToMove) {
+    DateEntry entry = Entry("M/d/yyyy");
+    PutCaret(entry.caret, FieldMapOf(entry.date), 8);
+    ASSERT_EQ(entry.caret.field, 2);
+    SetDate(entry, {9, 0, 0}); // no date and no text
+    EXPECT_EQ(entry.caret.index, 0);
+    SetDate(entry, {3, 5, 2007});
+    EXPECT_EQ(entry.caret.field, 0) << "the month's, where the caret is";
+}
+
 Date FromString(const char* text, const char* picture = "M/d/yy", char separator = '/') {
     DateEntry entry = Entry(picture, separator);
     entry.date.null = 1;

@@ -156,8 +156,8 @@ TEST(NumberWrite, FloatingNumbersAreStoredAsTheKindSays) {
         {kGeneral, 2, 7, "7.00"},
         {kInteger, 2, 2.75, "2"},
         {kIntegerGrouped, 2, -2.75, "-2"},
-        {kIntegerParentheses, 2, 3e9, "2147483647"},
-        {kIntegerGroupedParentheses, 2, -3e9, "-2147483648"},
+        {kIntegerParentheses, 2, 3e9, "3000000000"},
+        {kIntegerGroupedParentheses, 2, -3000000000.75, "-3000000000"},
         {kFloating, 2, 1.005, "1.01"},
         {kFloating, 2, 1.5e20, "1.50e+020"},
         {kFloatingGrouped, 2, -1234567.891, "-1234567.89"},
@@ -177,8 +177,9 @@ TEST(NumberWrite, FloatingNumbersAreStoredAsTheKindSays) {
 TEST(NumberWrite, WhatIsNoNumberIsStoredAsSuch) {
     EXPECT_EQ(AfterWriting(kFloating, 2, kInfinite, Written::Floating), "1.#INF");
     EXPECT_EQ(AfterWriting(kFloating, 2, -kInfinite, Written::Floating), "-1.#INF");
-    EXPECT_EQ(AfterWriting(kInteger, 2, kInfinite, Written::Floating), "2147483647");
-    EXPECT_EQ(AfterWriting(kInteger, 2, kNoNumber, Written::Floating), "-2147483648");
+    EXPECT_EQ(AfterWriting(kInteger, 2, kInfinite, Written::Floating), "1.#INF");
+    EXPECT_EQ(AfterWriting(kInteger, 2, kNoNumber, Written::Floating),
+              AfterWriting(kFloating, 2, kNoNumber, Written::Floating));
 }
 
 TEST(NumberWrite, ClampsToTheRange) {

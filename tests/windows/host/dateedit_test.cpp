@@ -510,4 +510,21 @@ TEST_F(DateEdit, FunctionsAnswerSanelyWithoutAnEdit) {
     DestroyWindow(foreign);
 }
 
+// Null is a date of the year 0 then, whatever the record brings.
+TEST_F(DateEdit, TellsWhenParametersTakeTheDateAway) {
+    HWND edit = Create();
+    const DtDate zeros = {0, 0, 0};
+    dtSetDate(edit, &zeros);
+    ASSERT_FALSE(dtIsNull(edit));
+    TakeEvents();
+    DtEditParams params{};
+    params.size = sizeof params;
+    params.keepLayout = 1;
+    dtSetEditParams(edit, &params);
+    EXPECT_TRUE(dtIsNull(edit));
+    EXPECT_EQ(TakeEvents(), Events{"changed"});
+    dtSetEditParams(edit, &params);
+    EXPECT_EQ(TakeEvents(), Events{}) << "nothing changed";
+}
+
 } // namespace

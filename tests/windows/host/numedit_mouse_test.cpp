@@ -127,6 +127,21 @@ TEST_F(NumEditMouse, AHeldButtonRepeats) {
     EXPECT_FALSE(TakeTimer(edit, kRepeatTimer));
 }
 
+TEST_F(NumEditMouse, AHeldButtonStopsSteppingWhenTheEditIsReadOnly) {
+    HWND edit = CreateSpinning();
+    Press(edit, kUp);
+    SendMessageA(edit, WM_TIMER, kDelayTimer, 0);
+    SendMessageA(edit, EM_SETREADONLY, TRUE, 0);
+    TakeEvents();
+    SendMessageA(edit, WM_TIMER, kRepeatTimer, 0);
+    EXPECT_EQ(TextOf(edit), "1");
+    EXPECT_EQ(TakeEvents(), Events{}) << "it does not even ask";
+    SendMessageA(edit, EM_SETREADONLY, FALSE, 0);
+    SendMessageA(edit, WM_TIMER, kRepeatTimer, 0);
+    EXPECT_EQ(TextOf(edit), "2");
+    Release(edit);
+}
+
 TEST_F(NumEditMouse, EveryRepeatAsks) {
     HWND edit = CreateSpinning();
     Press(edit, kDown);

@@ -219,6 +219,40 @@ TEST_F(NumEditPaint, TheParentMayChooseColors) {
     DeleteObject(brush);
 }
 
+TEST_F(NumEditPaint, ABackgroundColorWithoutABrushIsNotTheFields) {
+    HWND edit = Create();
+    Put(edit, "12");
+    const auto before = host.answer;
+    host.answer = [&](const Message& message) -> std::optional<LRESULT> {
+        if (message.message != WM_CTLCOLOREDIT) {
+            return before(message);
+        }
+        SetBkColor(reinterpret_cast<HDC>(message.wParam), kGreen);
+        return 0;
+    };
+    RedrawWindow(edit, nullptr, nullptr, RDW_INVALIDATE | RDW_UPDATENOW);
+    ExpectText(edit, "12");
+    host.answer = before;
+}
+
+// The text was scrolled to its end while it was typed.
+TEST_F(NumEditPaint, AnAlignedTextIsShownFromItsStartAgain) {
+    for (const DWORD alignment : {VNMS_RIGHT, VNMS_CENTER}) {
+        HWND fresh = Create(NM_INTEGER, 0, alignment, 40);
+        Put(fresh, "123456");
+        const Pixels expected = Shown(fresh);
+        DestroyWindow(fresh);
+        HWND edit = Create(NM_INTEGER, 0, alignment, 40);
+        Put(edit, "123456");
+        SetFocus(edit);
+        PressKey(VK_END);
+        ASSERT_GT(SendMessageA(edit, EM_GETFIRSTVISIBLELINE, 0, 0), 0);
+        SetFocus(host.window());
+        EXPECT_EQ(Difference(expected, Shown(edit)), "");
+        DestroyWindow(edit);
+    }
+}
+
 TEST_F(NumEditPaint, DisabledAndReadOnlyLookSo) {
     HWND edit = Create();
     Put(edit, "12");

@@ -455,4 +455,17 @@ TEST_F(NumEdit, FunctionsBearWindowsThatAreNone) {
     DestroyWindow(foreign);
 }
 
+TEST_F(NumEdit, ATextFollowsItsNewDecimalCharacter) {
+    HWND edit = Create(NM_GENERAL, 2);
+    Put(edit, "1234,5");
+    NmEditParams params = Params(NM_GENERAL, 2);
+    params.thousandChar = '.';
+    params.decimalChar = ',';
+    nmSetEditParams(edit, &params);
+    EXPECT_EQ(TextOf(edit), "1234.5");
+    double value = 0;
+    nmGetDouble(edit, &value);
+    EXPECT_EQ(value, 1234.5);
+}
+
 } // namespace
