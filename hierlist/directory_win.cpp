@@ -75,6 +75,7 @@ void* FindFirst(void* /*context*/, const char* pattern, FileEntry& entry) {
 }
 
 bool FindNext(void* /*context*/, void* search, FileEntry& entry) {
+    const QuietErrors quiet;
     WIN32_FIND_DATAA found;
     if (FindNextFileA(search, &found) == 0) {
         return false;
@@ -92,6 +93,12 @@ void ToLower(void* /*context*/, char* text) {
 }
 
 } // namespace
+
+std::uint32_t AttributesOf(const char* name) {
+    const QuietErrors quiet;
+    const DWORD attributes = GetFileAttributesA(name);
+    return attributes == INVALID_FILE_ATTRIBUTES ? 0 : attributes;
+}
 
 constexpr FileSystem kPlatformFiles = {
     nullptr,   DriveType, VolumeName, NetworkName, CurrentDrive,

@@ -7,4 +7,7 @@ namespace vorn::hierlist {
 
 extern const FileSystem kPlatformFiles;
 
+// The attributes of a file; 0 when there is none.
+std::uint32_t AttributesOf(const char* name);
+
 } // namespace vorn::hierlist

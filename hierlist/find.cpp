@@ -32,4 +32,24 @@ OlbItem* FindString(const Outline& outline, OlbItem* parent, std::uint32_t start
     return NoItem();
 }
 
+OlbItem* FindAtTop(const Outline& outline, std::uint32_t start, const char* text, bool exact) {
+    OlbItem* last = IndexToHandle(outline, start);
+    while (last != nullptr && last->parent != nullptr) {
+        last = last->parent;
+    }
+    for (OlbItem* item = last != nullptr ? last->nextSibling : nullptr; item != nullptr;
+         item = item->nextSibling) {
+        if (Matches(outline, item, text, exact)) {
+            return item;
+        }
+    }
+    OlbItem* end = last != nullptr ? last->nextSibling : nullptr;
+    for (OlbItem* item = outline.top.firstChild; item != end; item = item->nextSibling) {
+        if (Matches(outline, item, text, exact)) {
+            return item;
+        }
+    }
+    return NoItem();
+}
+
 } // namespace vorn::hierlist

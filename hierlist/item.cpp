@@ -193,6 +193,7 @@ OlbItem* Duplicate(const OlbItem* item) {
         copy->bitmapIndex = item->bitmapIndex;
         copy->height = item->height;
         copy->itemData = item->itemData;
+        copy->marks |= item->marks & kMarkData;
     }
     return copy;
 }

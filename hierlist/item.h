@@ -36,6 +36,7 @@ constexpr std::uint8_t kMarkTextOutside = 4; // the text has outgrown the record
 constexpr std::uint8_t kMarkValue = 8;       // holds a value of the host's instead of a text
 constexpr std::uint8_t kMarkDying = 16;      // taken out, to be freed; no operation takes it
 constexpr std::uint8_t kMarkSortKey = 32;    // the text's sort key follows it
+constexpr std::uint8_t kMarkData = 64;       // the host has set its data
 
 // One row, or what becomes a row when its parents open. Its address is its handle: it never moves.
 // The text follows in the same block, behind the item's node.

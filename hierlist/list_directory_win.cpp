@@ -59,11 +59,9 @@ extern "C" LONG WINAPI olbAddFile(HWND window, LPCSTR name) {
     if (record == nullptr || name == nullptr || HoldsValues(record->outline)) {
         return olbAddString(window, name);
     }
-    const DWORD attributes = GetFileAttributesA(name);
     char kindName[kFileNameSize];
     lstrcpynA(kindName, name, sizeof kindName);
     CharLowerBuffA(kindName, static_cast<DWORD>(lstrlenA(kindName)));
-    const std::int16_t picture =
-        PictureOfFile(kindName, attributes == INVALID_FILE_ATTRIBUTES ? 0 : attributes);
+    const std::int16_t picture = PictureOfFile(kindName, AttributesOf(name));
     return RowOfHandle(ToHandle(AddChild(record->outline, nullptr, name, picture)));
 }

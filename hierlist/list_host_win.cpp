@@ -101,7 +101,7 @@ void RowsChanged(void* context) {
     if (IsDrawingOn(record)) {
         UpdateBars(record.window);
     } else {
-        record.barsStale = true;
+        record.barsStale = true; // as UpdateBars does: hosts add very many items meanwhile
     }
 }
 
@@ -190,7 +190,7 @@ ULONG_PTR OwnerDrawData(const OlbItem* item) {
     if ((item->marks & kMarkValue) == 0) {
         return reinterpret_cast<ULONG_PTR>(TextOf(item));
     }
-    return item->itemData != 0 ? item->itemData : ValueOf(item);
+    return (item->marks & kMarkData) != 0 ? item->itemData : ValueOf(item);
 }
 
 } // namespace vorn::hierlist

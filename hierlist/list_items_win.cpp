@@ -1,6 +1,28 @@
 // The exported functions that put items into an outline list, take them out, move and copy them.
 #include "hierlist/list_handles_win.h"
 
+namespace vorn::hierlist {
+namespace {
+
+// MoveItem and its kin.
+using Relocation = OlbItem* (*)(Outline&, OlbItem*, OlbItem*, std::uint16_t);
+
+HOLBITEM RelocateHandle(HWND window, Relocation relocate, HOLBITEM item, HOLBITEM parent,
+                        WORD position) {
+    Record* record = RecordOf<Record>(window);
+    return record == nullptr
+               ? OLB_NOITEM
+               : ToHandle(relocate(record->outline, ToItem(item), ToItem(parent), position));
+}
+
+LONG RelocateRow(HWND window, Relocation relocate, LONG row, LONG parent, WORD position) {
+    return RowOfHandle(
+        RelocateHandle(window, relocate, HandleAt(window, row), OwnerAt(window, parent), position));
+}
+
+} // namespace
+} // namespace vorn::hierlist
+
 using namespace vorn;
 using namespace vorn::hierlist;
 
@@ -73,53 +95,37 @@ extern "C" void WINAPI olbResetContent(HWND window) {
 // ---- Moving and copying ----
 
 extern "C" LONG WINAPI olbMoveItem(HWND window, LONG row, LONG newParent, WORD position) {
-    return RowOfHandle(
-        olbMoveItemEx(window, HandleAt(window, row), OwnerAt(window, newParent), position));
+    return RelocateRow(window, MoveItem, row, newParent, position);
 }
 
 extern "C" HOLBITEM WINAPI olbMoveItemEx(HWND window, HOLBITEM item, HOLBITEM newParent,
                                          WORD position) {
-    Record* record = RecordOf<Record>(window);
-    return record == nullptr
-               ? OLB_NOITEM
-               : ToHandle(MoveItem(record->outline, ToItem(item), ToItem(newParent), position));
+    return RelocateHandle(window, MoveItem, item, newParent, position);
 }
 
 extern "C" LONG WINAPI olbMoveChildren(HWND window, LONG from, LONG to, WORD position) {
-    return RowOfHandle(
-        olbMoveChildrenEx(window, HandleAt(window, from), OwnerAt(window, to), position));
+    return RelocateRow(window, MoveChildren, from, to, position);
 }
 
 extern "C" HOLBITEM WINAPI olbMoveChildrenEx(HWND window, HOLBITEM from, HOLBITEM to,
                                              WORD position) {
-    Record* record = RecordOf<Record>(window);
-    return record == nullptr
-               ? OLB_NOITEM
-               : ToHandle(MoveChildren(record->outline, ToItem(from), ToItem(to), position));
+    return RelocateHandle(window, MoveChildren, from, to, position);
 }
 
 extern "C" LONG WINAPI olbCopyItem(HWND window, LONG row, LONG newParent, WORD position) {
-    return RowOfHandle(
-        olbCopyItemEx(window, HandleAt(window, row), OwnerAt(window, newParent), position));
+    return RelocateRow(window, CopyItem, row, newParent, position);
 }
 
 extern "C" HOLBITEM WINAPI olbCopyItemEx(HWND window, HOLBITEM item, HOLBITEM newParent,
                                          WORD position) {
-    Record* record = RecordOf<Record>(window);
-    return record == nullptr
-               ? OLB_NOITEM
-               : ToHandle(CopyItem(record->outline, ToItem(item), ToItem(newParent), position));
+    return RelocateHandle(window, CopyItem, item, newParent, position);
 }
 
 extern "C" LONG WINAPI olbCopyChildren(HWND window, LONG from, LONG to, WORD position) {
-    return RowOfHandle(
-        olbCopyChildrenEx(window, HandleAt(window, from), OwnerAt(window, to), position));
+    return RelocateRow(window, CopyChildren, from, to, position);
 }
 
 extern "C" HOLBITEM WINAPI olbCopyChildrenEx(HWND window, HOLBITEM from, HOLBITEM to,
                                              WORD position) {
-    Record* record = RecordOf<Record>(window);
-    return record == nullptr
-               ? OLB_NOITEM
-               : ToHandle(CopyChildren(record->outline, ToItem(from), ToItem(to), position));
+    return RelocateHandle(window, CopyChildren, from, to, position);
 }

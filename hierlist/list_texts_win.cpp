@@ -129,6 +129,7 @@ extern "C" LONG WINAPI olbSetItemDataEx(HWND window, HOLBITEM handle, LONG_PTR d
         return LB_ERR;
     }
     item->itemData = static_cast<std::uintptr_t>(data);
+    item->marks |= kMarkData;
     return 0;
 }
 

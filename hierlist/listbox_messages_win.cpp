@@ -52,6 +52,15 @@ bool AnswerContents(HWND window, UINT message, WPARAM wParam, LPARAM lParam, LRE
     }
 }
 
+LRESULT FindRow(HWND window, WPARAM wParam, LPARAM lParam, bool exact) {
+    const Record* record = RecordOf<Record>(window);
+    if (record == nullptr) {
+        return LB_ERR;
+    }
+    return RowOfHandle(ToHandle(
+        FindAtTop(record->outline, static_cast<std::uint32_t>(wParam), ToText(lParam), exact)));
+}
+
 // What items hold, and searching for it. A search goes among the items at the top.
 bool AnswerItems(HWND window, UINT message, WPARAM wParam, LPARAM lParam, LRESULT& result) {
     switch (message) {
@@ -76,10 +85,10 @@ bool AnswerItems(HWND window, UINT message, WPARAM wParam, LPARAM lParam, LRESUL
                      : LB_ERR;
         return true;
     case LB_FINDSTRING:
-        result = olbFindString(window, -1, ToNumber(wParam), ToText(lParam), FALSE);
+        result = FindRow(window, wParam, lParam, false);
         return true;
     case LB_FINDSTRINGEXACT:
-        result = olbFindString(window, -1, ToNumber(wParam), ToText(lParam), TRUE);
+        result = FindRow(window, wParam, lParam, true);
         return true;
     case LB_SELECTSTRING:
         result = olbSelectString(window, ToNumber(wParam), ToText(lParam));

@@ -130,6 +130,10 @@ OlbItem* CopyChildren(Outline& outline, OlbItem* from, OlbItem* newParent, std::
 OlbItem* FindString(const Outline& outline, OlbItem* parent, std::uint32_t start, const char* text,
                     bool exact);
 
+// Searches the items at the top as a list box searches its rows: begins behind the one that the row
+// `start` is, or is below, and goes round, that one last; from the first when there is no such row.
+OlbItem* FindAtTop(const Outline& outline, std::uint32_t start, const char* text, bool exact);
+
 // Writes the texts from the top down to the item, with separators (none when it is NUL), of at most
 // 255 characters and terminated; an empty one for no item. Returns the length.
 std::uint32_t FullPath(const Outline& outline, const OlbItem* item, char* buffer);

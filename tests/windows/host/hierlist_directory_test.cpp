@@ -254,6 +254,14 @@ TEST_F(HierListDirectory, ListsTheDrivesThereAre) {
     EXPECT_EQ(TextsOf(list), expected) << "the same for a drive's tree";
 }
 
+TEST_F(HierListDirectory, ShowsEachDrivesPictureAtOnce) {
+    HWND list = Create();
+    olbDir(list, DDL_DRIVES, "");
+    const vorn::test::Pixels shown = vorn::test::PixelsOf(list);
+    RedrawWindow(list, nullptr, nullptr, RDW_INVALIDATE | RDW_UPDATENOW);
+    EXPECT_EQ(Difference(shown, vorn::test::PixelsOf(list)), "");
+}
+
 TEST_F(HierListDirectory, RefusesDrivesThatAreNone) {
     HWND list = Create();
     for (const LONG drive : {-1, 27, 0x7FFFFFFF}) {

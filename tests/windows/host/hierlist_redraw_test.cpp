@@ -154,4 +154,23 @@ TEST_F(HierListRedraw, NothingElseHappensEither) {
     ExpectBar(list, 23, 18);
 }
 
+// What is painted for another reason is right, and so is what is asked.
+TEST_F(HierListRedraw, OpeningAndClosingUnderNoRedrawKeepTheView) {
+    HWND list = Create(LBS_NOREDRAW | WS_VSCROLL);
+    olbAddString(list, "parent");
+    for (int i = 0; i < 100; ++i) {
+        olbAddChildString(list, 0, "child");
+    }
+    olbOpenItem(list, 0);
+    InvalidateRect(list, nullptr, FALSE);
+    UpdateWindow(list);
+    ExpectBar(list, 101, 0);
+    olbSetTopIndex(list, 50);
+    olbCloseItem(list, 0);
+    InvalidateRect(list, nullptr, FALSE);
+    UpdateWindow(list);
+    EXPECT_EQ(olbGetTopIndex(list), 0);
+    EXPECT_EQ(olbGetBottomIndex(list), 0);
+}
+
 } // namespace

@@ -219,4 +219,32 @@ TEST_F(HierListTexts, AreFoundAmongTheChildrenOfClosedItems) {
     EXPECT_EQ(olbFindStringEx(list, parent, -1, "child", FALSE), OLB_NOITEM) << "open";
 }
 
+// Rows that were never measured are as high as the others.
+TEST_F(HierListTexts, UnmeasuredRowsHaveTheHeightOfAllRows) {
+    HWND list = Create();
+    AddRows(list, 1);
+    olbSetOwnerDraw(list, 2);
+    EXPECT_EQ(olbGetItemHeight(list, 0), kRowHeight);
+}
+
+// A list box's search is among the items at the top, whatever is open.
+TEST_F(HierListTexts, AreFoundAtTheTopPastOpenItems) {
+    HWND list = Create();
+    for (const char* text : {"p", "q", "r"}) {
+        olbAddString(list, text);
+    }
+    olbAddChildString(list, 0, "q below");
+    olbOpenItem(list, 0); // rows: p, q below, q, r
+    const auto find = [list](WPARAM start, const char* text) {
+        return SendMessageA(list, LB_FINDSTRING, start, reinterpret_cast<LPARAM>(text));
+    };
+    EXPECT_EQ(find(0, "q"), 2);
+    EXPECT_EQ(find(1, "q"), 2) << "behind the item at the top that row 1 is below";
+    EXPECT_EQ(find(2, "q"), 2) << "the last that is looked at";
+    EXPECT_EQ(find(3, "p"), 0) << "round the end";
+    EXPECT_EQ(find(static_cast<WPARAM>(-1), "r"), 3);
+    EXPECT_EQ(find(99, "p"), 0) << "from the first";
+    EXPECT_EQ(SendMessageA(list, LB_FINDSTRINGEXACT, 0, reinterpret_cast<LPARAM>("q below")), -1);
+}
+
 } // namespace

@@ -174,9 +174,12 @@ TEST_F(HierListOwnerDraw, ItemDataGoesBeforeTheValue) {
     HWND list = Create(LBS_OWNERDRAWFIXED);
     AddValue(list, 5);
     EXPECT_EQ(drawn.back().itemData, 5u);
-    Row(list, 0)->itemData = 9;
-    RedrawRow(list, 0);
-    EXPECT_EQ(drawn.back().itemData, 9u);
+    for (const LONG_PTR data : {9, 0}) {
+        EXPECT_EQ(olbSetItemData(list, 0, data), 0);
+        RedrawRow(list, 0);
+        EXPECT_EQ(drawn.back().itemData, static_cast<ULONG_PTR>(data));
+        EXPECT_EQ(olbGetItemData(list, 0), data);
+    }
 }
 
 TEST_F(HierListOwnerDraw, StatesAreTold) {
