@@ -1,5 +1,5 @@
 // Date edits in several layouts, display styles, borders and states.
-#include "page.h"
+#include "edit_page.h"
 
 #include <cstdio>
 
@@ -8,10 +8,6 @@ namespace {
 
 enum Id { kFirst = 100, kLast = 199, kEvent };
 
-constexpr int kLeft = 150;
-constexpr int kSecondLeft = 470;
-constexpr int kWidth = 130;
-constexpr int kHeight = 24;
 constexpr int kRowHeight = 44;
 constexpr int kTop = 20;
 
@@ -111,29 +107,9 @@ void Create(HWND page) {
                     {kLeft, kTop + 6 * kRowHeight, kLeft + kWidth, kTop + 6 * kRowHeight + 32}, id);
     SendMessageA(edit, WM_SETFONT, 0, FALSE);
     SetParams(edit, {"", 0, 0, 0, '.', {kDayFirst[0], kDayFirst[1], kDayFirst[2]}, 1, 1});
-    dtSetColor(edit, VORN_COLOR_FACE, RGB(0, 32, 0));
-    dtSetColor(edit, VORN_COLOR_TEXT, RGB(64, 255, 64));
-    Add(page, "STATIC", "", SS_LEFTNOWORDWRAP | SS_NOPREFIX,
-        {20, kPageHeight - 40, kPageWidth - 20, kPageHeight - 20}, kEvent);
-}
-
-const char* NameOf(int code) {
-    switch (code) {
-    case EN_SETFOCUS:
-        return "EN_SETFOCUS";
-    case EN_KILLFOCUS:
-        return "EN_KILLFOCUS";
-    case EN_UPDATE:
-        return "EN_UPDATE";
-    case EN_CHANGE:
-        return "EN_CHANGE";
-    case EN_MAXTEXT:
-        return "EN_MAXTEXT";
-    case EN_HSCROLL:
-        return "EN_HSCROLL";
-    default:
-        return "?";
-    }
+    dtSetColor(edit, VORN_COLOR_FACE, kDisplayFace);
+    dtSetColor(edit, VORN_COLOR_TEXT, kDisplayText);
+    AddEventLine(page, kEvent);
 }
 
 void Command(HWND page, int id, int code, HWND control) {
@@ -143,7 +119,7 @@ void Command(HWND page, int id, int code, HWND control) {
     char date[32] = "";
     dtGetDateString(control, date);
     char text[100];
-    std::snprintf(text, sizeof text, "%s: %s, day %ld since 1900", NameOf(code), date,
+    std::snprintf(text, sizeof text, "%s: %s, day %ld since 1900", NameOfEditCode(code), date,
                   dtGetDate(control, nullptr));
     SetWindowTextA(GetDlgItem(page, kEvent), text);
 }

@@ -1,5 +1,5 @@
 // Numeric edits of every format kind, in several display styles, borders and states.
-#include "page.h"
+#include "edit_page.h"
 
 #include <cstdio>
 
@@ -8,10 +8,6 @@ namespace {
 
 enum Id { kFirst = 100, kLast = 199, kEvent };
 
-constexpr int kLeft = 150;
-constexpr int kSecondLeft = 470;
-constexpr int kWidth = 130;
-constexpr int kHeight = 24;
 constexpr int kRowHeight = 38;
 constexpr int kTop = 16;
 
@@ -64,8 +60,8 @@ void AddSample(HWND page, const Sample& sample, int id) {
     params.leadingZero = 1;
     nmSetEditParams(edit, &params);
     if ((sample.style & VNMS_DIGITS) != 0) {
-        nmSetColor(edit, VORN_COLOR_FACE, RGB(0, 32, 0));
-        nmSetColor(edit, VORN_COLOR_TEXT, RGB(64, 255, 64));
+        nmSetColor(edit, VORN_COLOR_FACE, kDisplayFace);
+        nmSetColor(edit, VORN_COLOR_TEXT, kDisplayText);
     }
 }
 
@@ -74,23 +70,7 @@ void Create(HWND page) {
     for (const Sample& sample : kSamples) {
         AddSample(page, sample, id++);
     }
-    Add(page, "STATIC", "", SS_LEFTNOWORDWRAP | SS_NOPREFIX,
-        {20, kPageHeight - 40, kPageWidth - 20, kPageHeight - 20}, kEvent);
-}
-
-const char* NameOf(int code) {
-    switch (code) {
-    case EN_SETFOCUS:
-        return "EN_SETFOCUS";
-    case EN_UPDATE:
-        return "EN_UPDATE";
-    case EN_CHANGE:
-        return "EN_CHANGE";
-    case VNMN_TEXTCUT:
-        return "VNMN_TEXTCUT";
-    default:
-        return "?";
-    }
+    AddEventLine(page, kEvent);
 }
 
 void Command(HWND page, int id, int code, HWND control) {
@@ -100,7 +80,7 @@ void Command(HWND page, int id, int code, HWND control) {
     char number[64] = "";
     nmGetLastGoodNumber(control, number);
     char text[140];
-    std::snprintf(text, sizeof text, "%s: \"%s\", as an integer %ld", NameOf(code), number,
+    std::snprintf(text, sizeof text, "%s: \"%s\", as an integer %ld", NameOfEditCode(code), number,
                   nmGetInteger(control));
     SetWindowTextA(GetDlgItem(page, kEvent), text);
 }

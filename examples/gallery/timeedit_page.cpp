@@ -1,5 +1,5 @@
 // Time edits in several forms, display styles, borders and states, and a clock.
-#include "page.h"
+#include "edit_page.h"
 
 #include <cstdio>
 #include <cstring>
@@ -9,10 +9,6 @@ namespace {
 
 enum Id { kFirst = 100, kLast = 198, kClock, kEvent };
 
-constexpr int kLeft = 150;
-constexpr int kSecondLeft = 470;
-constexpr int kWidth = 130;
-constexpr int kHeight = 24;
 constexpr int kRowHeight = 44;
 constexpr int kTop = 20;
 
@@ -88,27 +84,9 @@ void Create(HWND page) {
         page,
         {"A clock:", kSecondLeft, 6, kUsual | VTMS_DIGITS | VTMS_READONLY, ':', 1, 1, "AM", "PM"},
         kClock);
-    tmSetColor(clock, VORN_COLOR_FACE, RGB(0, 32, 0));
-    tmSetColor(clock, VORN_COLOR_TEXT, RGB(64, 255, 64));
-    Add(page, "STATIC", "", SS_LEFTNOWORDWRAP | SS_NOPREFIX,
-        {20, kPageHeight - 40, kPageWidth - 20, kPageHeight - 20}, kEvent);
-}
-
-const char* NameOf(int code) {
-    switch (code) {
-    case EN_SETFOCUS:
-        return "EN_SETFOCUS";
-    case EN_UPDATE:
-        return "EN_UPDATE";
-    case EN_CHANGE:
-        return "EN_CHANGE";
-    case EN_MAXTEXT:
-        return "EN_MAXTEXT";
-    case EN_HSCROLL:
-        return "EN_HSCROLL";
-    default:
-        return "?";
-    }
+    tmSetColor(clock, VORN_COLOR_FACE, kDisplayFace);
+    tmSetColor(clock, VORN_COLOR_TEXT, kDisplayText);
+    AddEventLine(page, kEvent);
 }
 
 void Command(HWND page, int id, int code, HWND control) {
@@ -118,7 +96,7 @@ void Command(HWND page, int id, int code, HWND control) {
     char time[64] = "";
     tmGetTimeString(control, time);
     char text[120];
-    std::snprintf(text, sizeof text, "%s: %s%s", NameOf(code), time,
+    std::snprintf(text, sizeof text, "%s: %s%s", NameOfEditCode(code), time,
                   tmIsNull(control) != 0 ? "no time" : "");
     SetWindowTextA(GetDlgItem(page, kEvent), text);
 }
