@@ -32,8 +32,10 @@ void RunBelow(const std::string& command, const std::string& folder) {
     start.cb = sizeof start;
     PROCESS_INFORMATION process{};
     const std::string tool = line.substr(0, line.find(' '));
-    if (CreateProcessA(tool.c_str(), line.data(), nullptr, nullptr, FALSE, 0, nullptr,
-                       folder.c_str(), &start, &process) != 0) {
+    const BOOL started = CreateProcessA(tool.c_str(), line.data(), nullptr, nullptr, FALSE, 0,
+                                        nullptr, folder.c_str(), &start, &process);
+    // Of such a tool Wine answers no process, and as its thread whatever handle lay in its memory.
+    if (started && process.hProcess != nullptr) {
         CloseHandle(process.hThread);
         CloseHandle(process.hProcess);
     }
