@@ -130,7 +130,7 @@ Place PlaceByText(Outline& outline, OlbItem* owner, bool rows, const OlbItem* it
 OlbItem* FollowerByHost(Outline& outline, const Watch& owner, bool rows, const OlbItem* item) {
     const Siblings siblings(outline, owner.Item(), rows);
     OlbItem* sibling = siblings.First();
-    for (std::uint32_t left = owner.Item()->linkedChildren; left > 0 && sibling != nullptr;
+    for (std::uint32_t left = LinkedChildren(owner.Item()); left > 0 && sibling != nullptr;
          --left) {
         const Watch asked(outline, sibling);
         const int order = outline.callbacks->compareValues(

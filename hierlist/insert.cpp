@@ -7,7 +7,7 @@ namespace {
 
 // The child at a position in the order of links, null past the end.
 OlbItem* ChildAt(const Outline& outline, const OlbItem* owner, std::uint32_t position) {
-    if (position >= owner->linkedChildren) {
+    if (position >= LinkedChildren(owner)) {
         return nullptr;
     }
     if (AreInSequence(owner)) {
@@ -53,7 +53,7 @@ void InsertHidden(Outline& outline, OlbItem* owner, std::uint32_t position, OlbI
 
 bool AreInSequence(const OlbItem* owner) {
     return (owner->marks & kMarkOddChildren) == 0 && owner->unfoldedChildren == 0 &&
-           (owner->shownChildren == 0 || owner->shownChildren == owner->linkedChildren);
+           (owner->shownChildren == 0 || owner->detachedRun == nullptr);
 }
 
 void InsertAt(Outline& outline, OlbItem* owner, std::uint32_t position, OlbItem* item) {

@@ -137,7 +137,7 @@ void StoreValue(OlbItem* item, std::uintptr_t value) {
 // Siblings are no longer known to be in order.
 void LoseOrder(Outline& outline, const OlbItem* item) {
     OlbItem* owner = OwnerOf(outline, item);
-    if (owner->linkedChildren > 1) {
+    if (owner->firstChild != owner->lastChild) {
         owner->marks &= static_cast<std::uint8_t>(~kMarkInOrder);
     }
 }

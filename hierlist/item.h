@@ -42,10 +42,12 @@ constexpr std::uint8_t kMarkData = 64;       // the host has set its data
 // The text follows in the same block, behind the item's node.
 //
 // childCount is what the host sees; of children that were inserted at a position under a hidden
-// parent it knows nothing. The links know all children, and so does linkedChildren.
+// parent it knows nothing. The links know all children, and so do shownChildren and the run.
 struct OlbItem {
     std::uint16_t flags = 0;
-    std::int16_t level = 0; // 0 at the top
+    std::int16_t level = 0;           // 0 at the top
+    std::uint32_t sidePlace : 24 = 0; // in the side table, from 1 on; 0 when it is not there
+    std::uint32_t marks : 8 = kMarkInOrder;
     OlbItem* parent = nullptr;
     OlbItem* firstChild = nullptr;
     OlbItem* lastChild = nullptr;
@@ -58,16 +60,13 @@ struct OlbItem {
     std::uint16_t height = 0; // pixels, of rows of variable height
     std::uintptr_t itemData = 0;
     std::uint32_t childCount = 0;
-    std::uint32_t linkedChildren = 0;
     std::uint32_t shownChildren = 0; // all when open; when closed, those that closing did not count
     std::uint32_t unfoldedChildren = 0; // children that themselves have shown children
     std::uint32_t selectedChildren = 0;
     OlbItem* nextSelected = nullptr; // the neighbours in the order of selecting
     OlbItem* prevSelected = nullptr;
-    std::uint32_t sidePlace = 0; // in the side table, from 1 on; 0 when it is not there
-    std::uint8_t marks = kMarkInOrder;
 };
-static_assert(sizeof(void*) != 4 || sizeof(OlbItem) == 80);
+static_assert(sizeof(void*) != 4 || sizeof(OlbItem) == 72);
 
 // What operations answer when there is no item to answer; as an argument refused like null.
 inline OlbItem* NoItem() {

@@ -29,9 +29,10 @@ bool MustWalk(const OlbItem* owner) {
 } // namespace
 
 void Unfold(Outline& outline, OlbItem* item) {
+    const std::uint32_t children = LinkedChildren(item);
     SeqSplice(outline.visibleRoot, SeqPosition(item->node), item->detachedRun);
     item->detachedRun = nullptr;
-    SetShownChildren(outline, item, item->linkedChildren);
+    SetShownChildren(outline, item, children);
     item->flags |= kFlagOpen;
     outline.visibleCount += item->childCount;
 }

@@ -98,7 +98,7 @@ std::uint32_t DeleteItem(Outline& outline, OlbItem* item) {
     FreeItem(item);
 
     owner = watch.Item();
-    if (owner != nullptr && owner != &outline.top && owner->linkedChildren == 0 &&
+    if (owner != nullptr && owner != &outline.top && owner->firstChild == nullptr &&
         IsShown(outline, owner)) {
         TellRedraw(outline, Redraw::Row, SeqPosition(owner->node));
     }
@@ -123,7 +123,6 @@ std::int32_t DeleteSubtree(Outline& outline, OlbItem* item) {
     item->lastChild = nullptr;
     item->detachedRun = nullptr;
     item->childCount = 0;
-    item->linkedChildren = 0;
     item->marks |= kMarkInOrder;
     item->marks &= static_cast<std::uint8_t>(~kMarkOddChildren);
 

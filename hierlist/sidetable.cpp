@@ -13,9 +13,11 @@ constexpr std::uint32_t kFewestPages = 4;
 constexpr std::uint32_t kLargestBlock = std::numeric_limits<std::uint16_t>::max();
 static_assert(kPageEntries * sizeof(SideEntry) <= kLargestBlock);
 
-// What one block can name: 33 million entries, or 16 million with 64-bit addresses.
+// As many whole pages as an item's 24 bits can tell the places of.
+constexpr std::uint32_t kPlaceBits = 0xFF'FFFF;
+constexpr std::uint32_t kMostPages = kPlaceBits / kPageEntries;
 constexpr std::size_t kLinkSize = sizeof(void*);
-constexpr std::uint32_t kMostPages = kLargestBlock / kLinkSize;
+static_assert(kMostPages * kLinkSize <= kLargestBlock);
 
 SideEntry& EntryAt(const SideTable& table, std::uint32_t index) {
     return table.pages[index / kPageEntries][index % kPageEntries];
@@ -70,7 +72,7 @@ bool EnterItem(SideTable& table, OlbItem* item, std::uintptr_t value) {
         return false;
     }
     EntryAt(table, table.count) = {item, value};
-    item->sidePlace = ++table.count;
+    item->sidePlace = ++table.count & kPlaceBits;
     return true;
 }
 

@@ -53,11 +53,10 @@ void LinkAfter(const Outline& outline, OlbItem* owner, OlbItem* sibling, OlbItem
     item->parent = owner != &outline.top ? owner : nullptr;
     LinkNeighbours(owner, sibling, item);
     LinkNeighbours(owner, item, next);
-    ++owner->linkedChildren;
 }
 
 void KeepOrder(OlbItem* owner, bool sorted) {
-    if (owner->linkedChildren != 0 && !sorted) {
+    if (owner->firstChild != nullptr && !sorted) {
         owner->marks &= static_cast<std::uint8_t>(~kMarkInOrder);
     }
 }
@@ -67,7 +66,7 @@ bool IsShown(Outline& outline, OlbItem* item) {
         return true;
     }
     const OlbItem* owner = OwnerOf(outline, item);
-    if (owner->shownChildren == 0 || owner->shownChildren == owner->linkedChildren) {
+    if (owner->shownChildren == 0 || owner->detachedRun == nullptr) {
         return owner->shownChildren != 0;
     }
     return SeqRoot(item->node) == outline.visibleRoot;
@@ -127,7 +126,7 @@ bool MakeRoom(Outline& outline, OlbItem* owner, bool mayOpen) {
     if ((owner->flags & kFlagLocked) != 0 || !mayOpen) {
         return false;
     }
-    if (owner->linkedChildren != 0) {
+    if (owner->firstChild != nullptr) {
         Unfold(outline, owner);
     }
     return true;
@@ -146,10 +145,9 @@ std::uint32_t TakeOut(Outline& outline, OlbItem* item) {
         SeqCut(owner->detachedRun, position, position);
     }
     LinkNeighbours(owner, item->prevSibling, item->nextSibling);
-    --owner->linkedChildren;
     Lower(owner->childCount, 1);
     Lower(outline.itemCount, 1);
-    if (owner->linkedChildren == 0) {
+    if (owner->firstChild == nullptr) {
         owner->childCount = 0;
         owner->marks |= kMarkInOrder;
         owner->marks &= static_cast<std::uint8_t>(~kMarkOddChildren);

@@ -5,7 +5,8 @@
 // - the visible sequence holds an item only with all its parents, each before its children and
 //   everything below one item in one piece; shownChildren is how many of the children it holds;
 // - an open item has children and all of them are in the visible sequence;
-// - childCount is linkedChildren at most, and visibleCount and itemCount never fall below 0.
+// - childCount is the number of linked children at most, and visibleCount and itemCount never fall
+// below 0.
 #pragma once
 
 #include "hierlist/item.h"
@@ -101,6 +102,11 @@ bool IsShown(Outline& outline, OlbItem* item);
 std::uint32_t RowsEnd(Outline& outline, OlbItem* owner);
 
 void SetShownChildren(Outline& outline, OlbItem* item, std::uint32_t count);
+
+// How many children the links know.
+inline std::uint32_t LinkedChildren(const OlbItem* owner) {
+    return owner->shownChildren + SeqCount(owner->detachedRun);
+}
 
 // A place among an owner's children: behind a sibling, first for null, and at a row or at a
 // position of the detached run.

@@ -10,7 +10,7 @@ void TellPlaced(Outline& outline, OlbItem* item) {
     OlbItem* owner = OwnerOf(outline, item);
     if (IsShown(outline, item)) {
         TellRowsChanged(outline, Redraw::All, kNoRow);
-    } else if (owner->linkedChildren == 1 && IsShown(outline, owner)) {
+    } else if (owner->firstChild == owner->lastChild && IsShown(outline, owner)) {
         TellRedraw(outline, Redraw::Row, SeqPosition(owner->node));
     }
 }

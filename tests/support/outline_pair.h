@@ -502,7 +502,7 @@ private:
             Note("the end of the links");
         }
         if (real.childCount != static_cast<std::uint32_t>(item.childCount) ||
-            real.linkedChildren != item.links.size()) {
+            real.shownChildren + SeqCount(real.detachedRun) != item.links.size()) {
             Note("the number of children");
         }
         if (real.shownChildren != shown || real.unfoldedChildren != unfolded ||
