@@ -1,10 +1,11 @@
-"""The pages hold together: links and pictures exist, and an example shown is the one that compiles."""
+"""The pages hold together: links and pictures exist, and all code shown is of a file that compiles."""
 import re
 
 from tree import LINK, ROOT, finish, tracked
 
-# An example follows the line that names its file.
-EXAMPLE = re.compile(r"`(examples/[\w/.]+)`[^\n]*\n\n```\w+\n(.*?)```", re.DOTALL)
+# An example follows the line that names its file: all of it, or some lines "From `the file`".
+EXAMPLE = re.compile(r"(From\s)?`(examples/[\w/.]+)`[^\n]*\n\n```\w+\n(.*?)```", re.DOTALL)
+CODE = re.compile(r"^```(?:c|cpp|go|ada)$", re.MULTILINE)
 
 
 def broken_links(path, content):
@@ -15,9 +16,13 @@ def broken_links(path, content):
 
 
 def stale_examples(path, content):
-    for name, shown in EXAMPLE.findall(content):
-        if (ROOT / name).read_text(encoding="utf-8") != shown:
-            yield f"{path}: the example is not what {name} holds"
+    examples = EXAMPLE.findall(content)
+    for is_part, name, shown in examples:
+        whole = (ROOT / name).read_text(encoding="utf-8")
+        if whole != shown and not (is_part and shown and f"\n{shown}" in f"\n{whole}"):
+            yield f"{path}: the example is not what {name} holds:\n{shown}"
+    if len(CODE.findall(content)) > len(examples):
+        yield f"{path}: there is code that does not follow the name of its file"
 
 
 findings = []
