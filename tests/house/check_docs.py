@@ -5,6 +5,8 @@ from tree import LINK, ROOT, finish, tracked
 
 # An example follows the line that names its file: all of it, or some lines "From `the file`".
 EXAMPLE = re.compile(r"(From\s)?`(examples/[\w/.]+)`[^\n]*\n\n```\w+\n(.*?)```", re.DOTALL)
+ANCHOR = re.compile(r"\]\(([^)#\s]*)#([^)\s]+)\)")
+HEADING = re.compile(r"^#+ (.+)$", re.MULTILINE)
 CODE = re.compile(r"^```(?:c|cpp|go|ada)$", re.MULTILINE)
 
 
@@ -13,6 +15,19 @@ def broken_links(path, content):
         if not target.startswith(("http:", "https:")) and not (ROOT / path).parent.joinpath(
                 target).exists():
             yield f"{path}: no such file: {target}"
+
+
+def anchors(path):
+    """What links call the headings of a page."""
+    headings = HEADING.findall(path.read_text(encoding="utf-8"))
+    return {re.sub(r"[^\w -]", "", heading).lower().replace(" ", "-") for heading in headings}
+
+
+def broken_anchors(path, content):
+    for target, anchor in ANCHOR.findall(content):
+        there = (ROOT / path).parent / target if target else ROOT / path
+        if there.suffix == ".md" and there.is_file() and anchor not in anchors(there):
+            yield f"{path}: {target} has no heading {anchor}"
 
 
 def stale_examples(path, content):
@@ -28,5 +43,5 @@ def stale_examples(path, content):
 findings = []
 for page in tracked(".md"):
     text = (ROOT / page).read_text(encoding="utf-8")
-    findings += [*broken_links(page, text), *stale_examples(page, text)]
+    findings += [*broken_links(page, text), *broken_anchors(page, text), *stale_examples(page, text)]
 finish(findings)
