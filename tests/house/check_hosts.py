@@ -2,12 +2,11 @@
 types of their arguments and results. The compilers for both architectures judge, by a file of
 assertions that is made from the declarations."""
 import re
-import subprocess
 
+from compilers import COMPILERS, assertion, compile_errors
 from tree import ROOT, finish
 
 HOSTS = ROOT / "examples/hosts"
-COMPILERS = ("i686-w64-mingw32-gcc-posix", "x86_64-w64-mingw32-gcc-posix")
 # Names that a language has for what C calls otherwise; all others are C's own names.
 C_TYPES = {"go": {"int32": "int"}, "ada": {}}
 
@@ -64,10 +63,6 @@ def c_type(language, name):
     return C_TYPES[language].get(name, name) or "void"
 
 
-def assertion(condition, what):
-    return f'_Static_assert({condition}, "{what}");'
-
-
 def assert_constants(constants):
     for name, value in constants:
         same = f"__builtin_strcmp({name}, {value}) == 0" if '"' in value else f"{name} == {value}"
@@ -102,15 +97,6 @@ def inconsistent(functions):
             yield f"{name}: what is passed on are not its parameters in their order"
 
 
-def compile_errors(lines):
-    source = "\n".join(["#include <stddef.h>", "#include <vorn32.h>", *lines, ""])
-    for compiler in COMPILERS:
-        result = subprocess.run(
-            [compiler, "-std=gnu11", "-fsyntax-only", f"-I{ROOT / 'include'}", "-x", "c", "-"],
-            input=source, capture_output=True, text=True, check=False)
-        yield from re.findall(r"(?:error|fatal error): .*", result.stderr)
-
-
 def check(language, file, platform_file, constants, records, functions, markers):
     source = read(language, file)
     declared, kept, found = [*constants(source)], [*records(source)], [*functions(source)]
@@ -119,10 +105,11 @@ def check(language, file, platform_file, constants, records, functions, markers)
     if understood != expected or 0 in expected:
         yield f"{understood} of {expected} constants, records and functions were understood"
     yield from inconsistent(found)
-    yield from compile_errors([*assert_constants(declared),
-                               *assert_constants(constants(read(language, platform_file))),
-                               *assert_records(language, kept),
-                               *assert_functions(language, found)])
+    lines = [*assert_constants(declared),
+             *assert_constants(constants(read(language, platform_file))),
+             *assert_records(language, kept), *assert_functions(language, found)]
+    for architecture in COMPILERS:
+        yield from compile_errors(lines, architecture)
 
 
 checks = [("go", "vorn32.go", "win32.go", go_constants, go_records, go_functions,
