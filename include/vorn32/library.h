@@ -22,9 +22,10 @@
 #define VORN_COMBOBOX_CLASS "VORNComboBox32"
 
 /*
- * Asked by some controls of their parent while they paint (both parameters 0). A parent that
- * answers VORN_HOST_APP_YES gets their alternative look; every other answer, such as the 0 of a
- * window that does not know the message, the usual one.
+ * Asked of their parent (both parameters 0) by the picture button while it paints and by the font
+ * selector when it is clicked. A parent that answers VORN_HOST_APP_YES gets their alternative
+ * behaviour; every other answer, such as the 0 of a window that does not know the message, the
+ * usual one.
  */
 #define VORN_WM_IS_HOST_APP (WM_USER + 420)
 #define VORN_HOST_APP_YES 99
