@@ -1,6 +1,7 @@
 #include "core/classes_win.h"
 
 #include "core/attach.h"
+#include "core/paint_win.h"
 
 #include <vorn32.h>
 
@@ -91,6 +92,7 @@ bool AttachModule(HINSTANCE newModule) {
 
 void DetachModule() {
     Detach(library, kPlatform);
+    FreeKeptPixels();
 }
 
 HINSTANCE Module() {

@@ -7,9 +7,10 @@
 
 namespace vorn {
 
-// From its construction to the end of its scope a WM_PAINT is answered: drawing goes to a bitmap as
-// large as the part to repaint, in client coordinates, and is copied to the screen at the end. When
-// there is no memory for the bitmap, drawing goes to the screen. The window may be destroyed
+// From its construction to the end of its scope a WM_PAINT is answered: drawing goes to a bitmap at
+// least as large as the part to repaint, in client coordinates, and is copied to the screen at the
+// end. There is anything in the bitmap before: all of the part has to be drawn. When there is no
+// memory for the bitmap, drawing goes to the screen. The window may be destroyed
 // in between, and already by its construction: the window is asked to paint its frame and erase its
 // background then, and a host that subclassed it may do anything.
 class OffscreenPaint {
@@ -31,6 +32,9 @@ private:
     HBITMAP bitmap_ = nullptr;
     int saved_ = 0;
 };
+
+// Frees the bitmap that is kept from one paint to the next; for the library's end.
+void FreeKeptPixels();
 
 // Answers WM_PAINT with `draw(window, offscreen)`, unless the window was destroyed as the paint
 // began. For drawing that runs no host code, such as that of a control without a record.

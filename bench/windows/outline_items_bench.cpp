@@ -15,10 +15,11 @@ namespace {
 
 constexpr int kMany = 100'000;
 constexpr int kSorted = 20'000;
+constexpr int kBeside = 40; // rows that need the scroll bar whether the others are shown or not
 constexpr int kWidth = 250;
 constexpr int kHeight = 400;
 
-constexpr int kRounds = 5;
+constexpr int kRounds = 9;
 constexpr int kFewRounds = 3; // for what takes theirs seconds
 
 using Texts = std::vector<std::string>;
@@ -74,10 +75,17 @@ public:
 
 // ---- Lists ----
 
-// By messages with both, which the system hands over alike.
 void AddAll(HWND list, const Texts& texts) {
     for (const std::string& text : texts) {
         SendMessageA(list, LB_ADDSTRING, 0, Address(text));
+    }
+}
+
+// As hosts of the library do it, which need no message.
+void AddOurs(HWND list, const Texts& texts) {
+    static const auto add = Ours<decltype(olbAddString)>("olbAddString");
+    for (const std::string& text : texts) {
+        add(list, text.c_str());
     }
 }
 
@@ -86,13 +94,14 @@ void Empty(HWND list) {
 }
 
 // Adding and emptying take turns, each with a time of its own.
-void CompareFilling(const char* what, const Texts& texts, DWORD style) {
+void CompareFilling(const char* what, const Texts& texts, DWORD style,
+                    void (*addOurs)(HWND, const Texts&)) {
     const Pair lists(WS_VSCROLL | style, "LISTBOX", WS_VSCROLL | LBS_HASSTRINGS | style);
     for (HWND list : {lists.ours, lists.theirs}) {
         SetDrawing(list, false);
     }
     CompareAfter(
-        what, kRounds, [&] { Empty(lists.ours); }, [&] { AddAll(lists.ours, texts); },
+        what, kRounds, [&] { Empty(lists.ours); }, [&] { addOurs(lists.ours, texts); },
         [&] { Empty(lists.theirs); }, [&] { AddAll(lists.theirs, texts); });
 }
 
@@ -149,12 +158,16 @@ struct Trees : Pair {
         for (const std::string& text : texts) {
             add(ours, parent, text.c_str());
         }
+        AddOurs(ours, Texts(kBeside, "beside"));
     }
 
     void FillTheirs(const Texts& texts) {
         parent = Insert(theirs, TVI_ROOT, "parent");
         for (const std::string& text : texts) {
             Insert(theirs, parent, text);
+        }
+        for (int i = 0; i < kBeside; ++i) {
+            Insert(theirs, TVI_ROOT, "beside");
         }
     }
 
@@ -177,20 +190,25 @@ struct Trees : Pair {
     HTREEITEM parent = nullptr;
 };
 
+void CompareOpening(const Trees& trees, const char* opening, const char* closing) {
+    CompareAfter(
+        opening, kRounds, [&] { trees.Open(false); }, [&] { trees.Open(true); },
+        [&] { trees.Expand(false); }, [&] { trees.Expand(true); });
+    CompareAfter(
+        closing, kRounds, [&] { trees.Open(true); }, [&] { trees.Open(false); },
+        [&] { trees.Expand(true); }, [&] { trees.Expand(false); });
+}
+
 void CompareOpening(const Texts& texts) {
     Trees trees;
     trees.Draw(false);
     trees.FillOurs(texts);
     trees.FillTheirs(texts);
+    CompareOpening(trees, "outline list: open 100,000, redraw off / SysTreeView32",
+                   "outline list: close 100,000, redraw off / SysTreeView32");
     trees.Draw(true);
-    CompareAfter(
-        "outline list: open 100,000 children, painted / SysTreeView32", kFewRounds,
-        [&] { trees.Open(false); }, [&] { trees.Open(true); }, [&] { trees.Expand(false); },
-        [&] { trees.Expand(true); });
-    CompareAfter(
-        "outline list: close 100,000 children, painted / SysTreeView32", kFewRounds,
-        [&] { trees.Open(true); }, [&] { trees.Open(false); }, [&] { trees.Expand(true); },
-        [&] { trees.Expand(false); });
+    CompareOpening(trees, "outline list: open 100,000 children, painted / SysTreeView32",
+                   "outline list: close 100,000 children, painted / SysTreeView32");
 }
 
 void CompareTreeFilling(const Texts& texts) {
@@ -206,7 +224,7 @@ void CompareTreeFilling(const Texts& texts) {
     };
     CompareAfter(
         "outline list: add 100,000, redraw off / SysTreeView32", kFewRounds,
-        [&] { Empty(trees.ours); }, [&] { AddAll(trees.ours, texts); }, emptyTheirs, fillTheirs);
+        [&] { Empty(trees.ours); }, [&] { AddOurs(trees.ours, texts); }, emptyTheirs, fillTheirs);
     CompareAfter(
         "outline list: delete 100,000, redraw off / SysTreeView32", kFewRounds,
         [&] { AddAll(trees.ours, texts); }, [&] { Empty(trees.ours); }, fillTheirs, emptyTheirs);
@@ -216,9 +234,10 @@ void CompareTreeFilling(const Texts& texts) {
 
 void MeasureOutlineItems() {
     const Texts many = NumberedTexts(kMany);
-    CompareFilling("outline list: add 100,000, redraw off / LISTBOX", many, 0);
+    CompareFilling("outline list: add 100,000, redraw off / LISTBOX", many, 0, AddOurs);
+    CompareFilling("outline list: add 100,000 by message, redraw off / LISTBOX", many, 0, AddAll);
     CompareFilling("outline list: add 20,000 sorted, redraw off / LISTBOX", ShuffledTexts(kSorted),
-                   LBS_SORT);
+                   LBS_SORT, AddOurs);
     CompareEmptying("outline list: delete 100,000, redraw off / LISTBOX", many);
     CompareOpening(many);
     CompareTypeAhead(many);
