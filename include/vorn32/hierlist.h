@@ -26,6 +26,8 @@
 /* An item's handle. Where none is asked for or there is none to give: null or OLB_NOITEM. */
 /* NOLINTNEXTLINE(modernize-use-using): C has no other way */
 typedef struct OLBITEM_* HOLBITEM;
+
+/* No item, as a handle: what functions answer that found none or had no memory for one. */
 #define OLB_NOITEM ((HOLBITEM)(LONG_PTR)-1)
 
 /* As a picture index: a folder, closed or open as the item is, ahead of all others when sorted. */
