@@ -40,6 +40,7 @@ class Item:
     line: int
     text: str  # a function's prototype, what a #define stands for
     comment: str | None = None
+    parameters: str = ""  # of a macro that takes some
     fields: list[Field] = dataclasses.field(default_factory=list)
     pack: int = 8
 
@@ -133,7 +134,7 @@ class Reader:
         match = DEFINE.match(code)
         if match is None:
             self.fail("This #define is in a form that is not known.", line)
-        self.add(Item("define", match[1], line, f"{match[3] or ''}", comment))
+        self.add(Item("define", match[1], line, match[3] or "", comment, match[2] or ""))
 
     def conditional(self):
         """A name that is defined one way while the library is built and another for hosts."""
@@ -188,7 +189,7 @@ class Reader:
             fields = fields_of(rows)
         except ValueError as error:
             self.fail(str(error), line)
-        self.add(Item("record", match[1], line, "", comment, fields))
+        self.add(Item("record", match[1], line, "", comment, fields=fields))
 
     def description(self):
         """A comment that stands for itself."""
