@@ -78,7 +78,7 @@ class SiteExtension(Extension):
 
 def render(text, site, page):
     """The HTML of a page's Markdown, and its headings as nested dictionaries."""
-    md = markdown.Markdown(extensions=[
+    md = markdown.Markdown(output_format="html", extensions=[
         "tables", "fenced_code", "sane_lists", TocExtension(),
         CodeHiliteExtension(css_class="code", guess_lang=False), SiteExtension(site, page)])
     return md.convert(text), md.toc_tokens

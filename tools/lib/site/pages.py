@@ -232,6 +232,8 @@ def build(root, out):
     """Makes the site of the project at `root` in the folder `out`, whatever was there before.
     Raises SiteError and HeaderError."""
     if out.exists():
+        if any(out.iterdir()) and not (out / "style.css").exists():
+            raise SiteError(f"{out}: This folder holds something else than a site.")
         shutil.rmtree(out)
     os.makedirs(out)
     builder = Builder(Site(root, out))

@@ -88,8 +88,11 @@ class Reference:
         return self.prose.code(name)
 
     def group(self, header, group, kind, twins):
+        # "Window styles." alone would say the heading again.
+        heading = re.compile(re.escape(KINDS[kind]) + r"\.(?: |$)")
+        texts = [heading.sub("", text, count=1) for text in group.paragraphs]
         made = {"section": group.section,
-                "paragraphs": [self.prose.text(text) for text in group.paragraphs]}
+                "paragraphs": [self.prose.text(text) for text in texts if text]}
         if kind == "functions":
             made["functions"] = self.functions(group)
         elif kind == "types":
