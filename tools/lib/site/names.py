@@ -8,6 +8,11 @@ KINDS = {
     "styles": "Window styles", "functions": "Functions", "messages": "Messages",
     "notifications": "Notifications", "types": "Types", "constants": "Constants",
 }
+# Each of them alone.
+SINGULARS = {
+    "styles": "window style", "functions": "function", "messages": "message",
+    "notifications": "notification", "types": "type", "constants": "constant",
+}
 PREFIXES = [
     ("messages", re.compile(r"VORN_WM_|(?!VORN_)(?:V[A-Z]+|OLB)M_")),
     ("styles", re.compile(r"(?:V[A-Z]+|OLB)S_")),

@@ -11,7 +11,7 @@ import jinja2
 
 from headers import read_headers
 from markup import png_size, render
-from names import KINDS, all_names, page_of
+from names import SINGULARS, all_names, page_of
 from prose import Prose
 from reference import Reference
 from source import code_styles, highlighted, is_text, tracked_below
@@ -161,7 +161,7 @@ class Builder:
         # What is the library's own comes before what only its headers share.
         headers.sort(key=lambda header: header.name != stem)
         prose = Prose(lambda word: self.site.name_address(word, address))
-        made = Reference(headers, self.records, prose)
+        made = Reference(headers, self.site.pages[stem].opening, self.records, prose)
         return {"sections": made.sections(), "about": made.about(),
                 "headers": [{"name": header.path.removeprefix("include/"),
                              "address": self.site.source(header.path)} for header in headers]}
@@ -199,7 +199,7 @@ class Builder:
         for name in sorted(self.site.names.values(), key=lambda name: name.name.lower()):
             letters.setdefault(name.name[0].upper(), []).append({
                 "name": name.name, "address": f"{name.page}.html#{name.name}",
-                "page": self.site.pages[name.page].title, "kind": KINDS[name.kind]})
+                "page": self.site.pages[name.page].title, "kind": SINGULARS[name.kind]})
         self.write("reference.html", "names.html", title="All names", letters=letters,
                    count=len(self.site.names))
 

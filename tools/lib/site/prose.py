@@ -2,9 +2,9 @@
 import html
 import re
 
-WORD = re.compile(r"`([^`]+)`|<vorn32[\w/.]*>|\b[A-Za-z_]\w*")
+WORD = re.compile(r"`([^`]+)`|<vorn32[\w/.]*>|\b[A-Z]+_\.\.\.|\b[A-Za-z_]\w*")
 # What the platform or C calls by a name: LB_DIR, RedrawWindow, MAKELONG, wParam.
-PLATFORM = re.compile(r"[A-Z][A-Z0-9]*_\w*$|[A-Z][a-z]+(?:[A-Z][a-z]+)+$|[lw]Param$|"
+PLATFORM = re.compile(r"[A-Z][A-Z0-9]*_(?:\w*|\.\.\.)$|[A-Z][a-z]+(?:[A-Z][a-z]+)+$|[lw]Param$|"
                       r"(?:MAKELONG|LOWORD|HIWORD|DWORD|WORD|BOOL|LONG|TRUE|FALSE|RECT|LOGFONT|"
                       r"LISTBOX|COMBOBOX)$")
 

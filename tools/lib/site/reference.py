@@ -14,8 +14,16 @@ USER_MESSAGE = re.compile(r"\(WM_USER \+ (\d+)\)$")
 WM_USER = 1024
 
 
-def prototype(text):
-    return highlight(text, CLexer(stripnl=True), HtmlFormatter(nowrap=True)).rstrip("\n")
+def prototype(item):
+    """The declaration, highlighted, whose name stands out."""
+    made = highlight(item.text, CLexer(stripnl=True), HtmlFormatter(nowrap=True)).rstrip("\n")
+    return re.sub(rf'<span class="nf?">{item.name}</span>', f"<strong>{item.name}</strong>", made,
+                  count=1)
+
+
+def as_sentence(text):
+    """What stands at the end of a line, as a text of its own."""
+    return text[0].upper() + text[1:] + ("" if text.endswith(".") else ".")
 
 
 def value_of(item):
@@ -26,17 +34,25 @@ def value_of(item):
     return re.sub(r"^\((-?\d+)\)$", r"\1", item.text), ""
 
 
-def about_of(header):
-    """What the header says of itself, without the sentence that only names it."""
-    first = TITLE_SENTENCE.sub("", header.about[0], count=1)
-    return [paragraph for paragraph in [first, *header.about[1:]] if paragraph]
+def about_of(header, opening):
+    """What the header says of itself, without the sentence that only names it, and without those
+    that its page opens with already."""
+    opening = " ".join(opening.replace("`", "").split())
+    paragraphs = [TITLE_SENTENCE.sub("", header.about[0], count=1), *header.about[1:]]
+    for paragraph in paragraphs:
+        sentences = re.split(r"(?<=\.) ", paragraph)
+        while sentences and sentences[0] in opening:
+            sentences = sentences[1:]
+        if sentences:
+            yield " ".join(sentences)
 
 
 class Reference:
     """Makes what the template shows of the headers of one page."""
 
-    def __init__(self, headers, records, prose):
+    def __init__(self, headers, opening, records, prose):
         self.headers = headers
+        self.opening = opening
         self.records = records
         self.prose = prose
 
@@ -51,8 +67,7 @@ class Reference:
             rows.append({"name": item.name, "parameters": item.parameters, "written": written,
                          "number": number, "twin": self.link(twins.get(item.name)),
                          "text": self.prose.text(item.comment or "")})
-        return {"rows": rows, "numbers": any(row["number"] for row in rows), "twins": has_twins,
-                "texts": any(row["text"] for row in rows)}
+        return {"rows": rows, "twins": has_twins, "texts": any(row["text"] for row in rows)}
 
     def link(self, name):
         return "" if name is None else self.prose.code(name)
@@ -60,12 +75,12 @@ class Reference:
     def functions(self, group):
         """Functions that share a comment stand together above it, others by themselves."""
         if not group.paragraphs:
-            return [self.entry([item], [item.comment]) for item in group.items]
+            return [self.entry([item], [as_sentence(item.comment)]) for item in group.items]
         own = [f"{item.name}: {item.comment}" for item in group.items if item.comment]
         return [self.entry(group.items, [*group.paragraphs, *own])]
 
     def entry(self, items, texts):
-        return {"functions": [{"name": item.name, "html": prototype(item.text)} for item in items],
+        return {"functions": [{"name": item.name, "html": prototype(item)} for item in items],
                 "texts": [self.prose.text(text) for text in texts]}
 
     def types(self, group):
@@ -79,7 +94,7 @@ class Reference:
                        "text": self.prose.text(field.comment or "")}
                       for i, field in enumerate(item.fields)]
             entries.append({"name": item.name, "size": size, "text": own, "fields": fields,
-                            "html": prototype(item.text) if item.text else "",
+                            "html": prototype(item) if item.text else "",
                             "offsets": offsets is not None,
                             "texts": any(field["text"] for field in fields)})
         return entries
@@ -89,10 +104,10 @@ class Reference:
 
     def group(self, header, group, kind, twins):
         # "Window styles." alone would say the heading again.
-        heading = re.compile(re.escape(KINDS[kind]) + r"\.(?: |$)")
+        heading = re.compile(re.escape(KINDS[kind]) + r"[.:](?: |$)")
         texts = [heading.sub("", text, count=1) for text in group.paragraphs]
         made = {"section": group.section,
-                "paragraphs": [self.prose.text(text) for text in texts if text]}
+                "paragraphs": [self.prose.text(as_sentence(text)) for text in texts if text]}
         if kind == "functions":
             made["functions"] = self.functions(group)
         elif kind == "types":
@@ -113,4 +128,5 @@ class Reference:
                 for kind, title in KINDS.items() if groups[kind]]
 
     def about(self):
-        return [self.prose.text(text) for header in self.headers for text in about_of(header)]
+        return [self.prose.text(text) for header in self.headers
+                for text in about_of(header, self.opening)]
