@@ -77,11 +77,12 @@ class Site:
     def prefix(page):
         return "../" * page.count("/")
 
-    def resolve(self, link):
-        """What a link in docs/ names, relative to the project's root."""
+    def resolve(self, link, page):
+        """What a link of a page of docs/ names, relative to the project's root."""
         path = posixpath.normpath(posixpath.join("docs", link))
         if path.startswith("..") or not (self.root / path).exists():
-            raise SiteError(f"docs/: The link to {link} leads nowhere.")
+            source = f"docs/{page.removesuffix('.html')}.md"
+            raise SiteError(f"{source}: The link to {link} leads nowhere.")
         return path
 
     def address(self, link, page):
@@ -89,7 +90,7 @@ class Site:
         target, mark, anchor = link.partition("#")
         if re.match(r"\w+:", link) or not target:
             return link
-        path = self.resolve(target)
+        path = self.resolve(target, page)
         file = pathlib.PurePosixPath(path)
         if file.parent.as_posix() == "docs" and file.suffix == ".md":
             return f"{self.prefix(page)}{file.stem}.html{mark}{anchor}"
@@ -110,7 +111,7 @@ class Site:
 
     def picture(self, link, page):
         """The file of a picture, which keeps its address; it is brought along."""
-        path = self.resolve(link)
+        path = self.resolve(link, page)
         if not path.startswith("docs/") or page.count("/"):
             raise SiteError(f"{page}: The picture {link} is not in docs/.")
         self.copies[path.removeprefix("docs/")] = self.root / path
