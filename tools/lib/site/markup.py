@@ -27,8 +27,10 @@ class Linker(Treeprocessor):
         self.page = page
 
     def name_link(self, parent, index, code):
+        """A public name leads to its description, an example's to the example."""
         text = html.unescape("".join(code.itertext()))
-        address = self.site.name_address(text.split("(")[0], self.page)
+        address = (self.site.name_address(text.split("(")[0], self.page)
+                   or self.site.example_address(text, self.page))
         if address is None:
             return
         link = ElementTree.Element("a", {"href": address, "class": "name"})

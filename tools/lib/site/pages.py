@@ -18,6 +18,7 @@ from source import code_styles, highlighted, is_text, tracked_below
 
 HERE = pathlib.Path(__file__).resolve().parent
 INTRODUCTION = re.compile(r"# VORN32\n\n(.*?)\n\n", re.DOTALL)
+EXAMPLE = re.compile(r"examples/[\w./]*$")
 OPENING = re.compile(r"# ([^\n]+)\n\n(.+?)\n\n", re.DOTALL)
 CONTROLS = ["button", "calendar", "combobox", "dateedit", "dial", "fontselect", "numedit",
             "hierlist", "percentbar", "udlr", "timeedit"]
@@ -72,6 +73,12 @@ class Site:
             return None
         there = f"{self.names[name].page}.html"
         return f"#{name}" if there == page else f"{self.prefix(page)}{there}#{name}"
+
+    def example_address(self, name, page):
+        """Where an example is shown, or the folder of some; None for any other text."""
+        if not EXAMPLE.match(name) or not tracked_below(self.root, name):
+            return None
+        return self.prefix(page) + self.source(name.rstrip("/"))
 
     @staticmethod
     def prefix(page):
