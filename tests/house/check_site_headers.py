@@ -1,15 +1,14 @@
 """The reader of the public headers refuses what it cannot describe, and tells where that is; and it
 reckons where fields are as the compilers do."""
-import subprocess
 import sys
 
+from compilers import COMPILERS, assertion, compile_errors
 from tree import ROOT, finish
 
 sys.path.insert(0, str(ROOT / "tools/lib/site"))
 from headers import HeaderError, parse, read_headers  # noqa: E402
 from layout import measure  # noqa: E402
 
-COMPILERS = ("i686-w64-mingw32-gcc-posix", "x86_64-w64-mingw32-gcc-posix")
 ABOUT = "/*\n * VORN32: a header.\n */\n#ifndef VORN32_X_H\n#define VORN32_X_H\n\n"
 FIRST = 7  # the line behind that
 END = "\n\n#endif\n"
@@ -59,7 +58,6 @@ def refusals():
 
 
 def assertions(records):
-    yield '#include "vorn32.h"\n#include <stddef.h>'
     for record in records.values():
         measured = measure(record, records)
         if measured is None:
@@ -67,21 +65,16 @@ def assertions(records):
         claims = [f"sizeof({record.name}) == {measured[1]}"]
         claims += [f"offsetof({record.name}, {field.name}) == {offset}"
                    for field, offset in zip(record.fields, measured[0])]
-        yield from (f'_Static_assert({claim}, "{claim}");' for claim in claims)
+        yield from (assertion(claim, claim) for claim in claims)
 
 
 def layouts():
-    records = {item.name: item for header in read_headers(ROOT) for item in header.items()
-               if item.kind == "record"}
-    source = "\n".join(assertions(records)) + "\n"
-    if source.count("_Static_assert") < 30:
-        yield f"only {source.count('_Static_assert')} sizes and offsets were found"
-    for compiler in COMPILERS:
-        judged = subprocess.run([compiler, "-std=c11", "-fsyntax-only", f"-I{ROOT}/include", "-x",
-                                 "c", "-"], input=source, capture_output=True, text=True,
-                                check=False)
-        if judged.returncode != 0:
-            yield f"{compiler}: {judged.stderr}"
+    claims = list(assertions({item.name: item for header in read_headers(ROOT)
+                              for item in header.items() if item.kind == "record"}))
+    if len(claims) < 30:
+        yield f"only {len(claims)} sizes and offsets were found"
+    for architecture in COMPILERS:
+        yield from (f"{architecture}: {error}" for error in compile_errors(claims, architecture))
 
 
 finish([*refusals(), *layouts()])
