@@ -28,6 +28,12 @@ if(WIN32)
   endif()
 endif()
 
+if(VORN_CHECKED)
+  # Traps need no run-time library, which MinGW has not.
+  target_compile_options(vorn_library_settings INTERFACE
+    -fsanitize=undefined,float-cast-overflow -fno-sanitize=vptr -fsanitize-undefined-trap-on-error)
+endif()
+
 if(VORN_SANITIZE)
   add_compile_options(-fsanitize=address,undefined -fno-sanitize=vptr
                       -fno-sanitize-recover=all -fno-omit-frame-pointer)
