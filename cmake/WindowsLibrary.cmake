@@ -31,7 +31,10 @@ set(resource_inputs ${picture_bitmaps} ${CMAKE_SOURCE_DIR}/resources/fontselect.
 set_source_files_properties(resources/vorn32.rc PROPERTIES OBJECT_DEPENDS "${resource_inputs}")
 add_dependencies(VORN32 vorn_pictures)
 target_compile_definitions(VORN32 PRIVATE VORN32_BUILD)
-if(NOT VORN_CHECKED)
+if(VORN_CHECKED)
+  # The standard library says itself what is wrong.
+  target_link_libraries(VORN32 PRIVATE -static stdc++ gcc_eh gcc)
+else()
   # The window halves wait for the system most of the time; small is what counts there.
   target_compile_options(VORN32 PRIVATE -Os)
   # Only a checked build's faults are looked up by their addresses.

@@ -1,15 +1,16 @@
-// Blocks for the checked build. Each ends where its page ends, before a page that nobody may touch,
-// and its pages are never used again: an access past its end or after FreeBlock faults at once, and
-// ends the program with a line that tells which.
+// Blocks for the checked build. Each ends where its page ends, as near as its alignment lets it,
+// before a page that nobody may touch, and its pages are never used again: an access past its end
+// or after FreeBlock faults at once. What is written beside it in its pages is found by FreeBlock.
+// Either ends the program with a line that tells which.
 #include "core/memory.h"
 #include "core/platform_win.h"
 #include "tests/support/guarded_memory.h"
 
 #include <algorithm>
 #include <array>
+#include <cstdint>
 #include <cstdio>
 #include <cstring>
-#include <iterator>
 
 namespace vorn {
 
@@ -54,6 +55,7 @@ struct Region {
 std::array<Region, 256> regions;
 std::size_t regionCount = 0;
 std::uint32_t liveBlocks = 0;
+PVOID faultHandler = nullptr;
 SRWLOCK lock = SRWLOCK_INIT;
 
 class Lock {
@@ -105,7 +107,7 @@ unsigned char* AddressOf(Place place, const Guarded& block) {
 
 [[noreturn]] void EndProgram(const char* what, const void* address, const Guarded* block) {
     std::printf("[  FAILED  ] %s: %p", what, address);
-    if (block != nullptr) {
+    if (block != nullptr && block->state != State::None) {
         std::printf(", %s block of %u bytes", block->state == State::Freed ? "freed" : "live",
                     block->size);
     }
@@ -130,31 +132,11 @@ LONG CALLBACK SeeFault(EXCEPTION_POINTERS* exception) {
         --place.page;
     }
     const Guarded& block = place.region->blocks[place.page];
-    std::printf("from %p: offset %td of the block at %p\n", record.ExceptionAddress,
-                address - AddressOf(place, block), AddressOf(place, block));
-    EndProgram("access to guarded memory", address, &block);
+    const unsigned char* begin = AddressOf(place, block);
+    std::printf("at %p, %td bytes from the beginning of the block:\n", record.ExceptionAddress,
+                address - begin);
+    EndProgram("access to guarded memory", begin, &block);
 }
-
-// Watches for faults, and gives the regions back when the DLL goes.
-class Watch {
-public:
-    Watch() : handler_(AddVectoredExceptionHandler(1, SeeFault)) {}
-    ~Watch() {
-        RemoveVectoredExceptionHandler(handler_);
-        while (regionCount > 0) {
-            const Region& region = regions[--regionCount];
-            VirtualFree(region.pages, 0, MEM_RELEASE);
-            VirtualFree(region.blocks, 0, MEM_RELEASE);
-        }
-    }
-    Watch(const Watch&) = delete;
-    Watch& operator=(const Watch&) = delete;
-
-private:
-    PVOID handler_;
-};
-
-const Watch watch;
 
 void AddRegion() {
     void* pages = VirtualAlloc(nullptr, kRegionPages * kPage, MEM_RESERVE, PAGE_NOACCESS);
@@ -163,8 +145,23 @@ void AddRegion() {
     if (regionCount == regions.size() || pages == nullptr || blocks == nullptr) {
         EndProgram("no address space for more guarded memory", pages, nullptr);
     }
+    if (faultHandler == nullptr) {
+        faultHandler = AddVectoredExceptionHandler(1, SeeFault);
+    }
     // The page before the first block is a guard as well.
     regions[regionCount++] = {static_cast<unsigned char*>(pages), static_cast<Guarded*>(blocks), 1};
+}
+
+// Gives everything back when the DLL goes.
+[[gnu::destructor]] void RemoveRegions() {
+    if (faultHandler != nullptr) {
+        RemoveVectoredExceptionHandler(faultHandler);
+    }
+    while (regionCount > 0) {
+        const Region& region = regions[--regionCount];
+        VirtualFree(region.pages, 0, MEM_RELEASE);
+        VirtualFree(region.blocks, 0, MEM_RELEASE);
+    }
 }
 
 // Where there is place for this many pages and a guard.
@@ -217,7 +214,9 @@ void FreeGuarded(Place place, void* address) {
     if (!IsIntactAt(place)) {
         EndProgram("written beside the block", address, &block);
     }
-    VirtualFree(FirstPage(place), PagesOf(block.size) * kPage, MEM_DECOMMIT);
+    if (VirtualFree(FirstPage(place), PagesOf(block.size) * kPage, MEM_DECOMMIT) == 0) {
+        EndProgram("cannot take back the block", address, &block);
+    }
     block.state = State::Freed;
     --liveBlocks;
     FreePlainBlock(nullptr, block.plain);
