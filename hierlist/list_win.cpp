@@ -116,14 +116,22 @@ void OnSetRedraw(HWND window, bool on) {
     }
 }
 
-// Rows in columns lie elsewhere in another height, and highlights to the right edge end elsewhere.
+// Whether another size changes what is drawn where the list was before: rows in columns lie
+// elsewhere, and highlights to the right edge, rows that the parent draws and the focus of an empty
+// list end elsewhere.
+bool ReachesItsEdges(const Record& record) {
+    const bool showsFocusAlone =
+        record.outline.visibleRoot == nullptr && record.state.selection.hasFocus;
+    return (StyleOf(record.window) & (kStyleMultiColumn | kStyleOwnerDraw)) != 0 ||
+           HasOption(record.options, kOptionFullRow) || showsFocusAlone;
+}
+
 void OnSize(HWND window) {
     const Record* record = RecordOf<Record>(window);
     if (record == nullptr) {
         return;
     }
-    const bool multiColumn = (StyleOf(window) & kStyleMultiColumn) != 0;
-    if (multiColumn || HasOption(record->options, kOptionFullRow)) {
+    if (ReachesItsEdges(*record)) {
         InvalidateRect(window, nullptr, FALSE);
     }
     UpdateBars(window);
@@ -133,6 +141,7 @@ void OnStyleChanged(HWND window, WPARAM which) {
     Record* record = RecordOf<Record>(window);
     if (record != nullptr && static_cast<int>(which) == GWL_STYLE) {
         record->outline.style = StyleOf(window);
+        record->options.border = BorderFromStyle(record->outline.style);
         record->barsStale = true;
         ForgetColumns(*record);
     }
@@ -149,7 +158,7 @@ LRESULT OnDrawingMessage(HWND window, UINT message, WPARAM wParam, LPARAM lParam
         OnSetRedraw(window, wParam != 0);
         return 0;
     case WM_SYSCOLORCHANGE:
-        InvalidateRect(window, nullptr, FALSE);
+        RedrawWindow(window, nullptr, nullptr, RDW_INVALIDATE | RDW_FRAME);
         return 0;
     case WM_MEASUREITEM:
         return OnMeasureItem(window, wParam, lParam);
