@@ -9,6 +9,7 @@
 #include "hierlist/list_paint_win.h"
 #include "hierlist/list_scroll_win.h"
 #include "hierlist/list_view_win.h"
+#include "hierlist/structure.h"
 
 #include <vorn32/hierlist.h>
 
@@ -66,6 +67,18 @@ LRESULT OnCreate(HWND window) {
     }
     UpdateBars(window);
     return RecordOf<Record>(window) != nullptr ? 0 : -1;
+}
+
+// Tells the parent of each value that goes, as the system's list box does: hosts free there what
+// the values stand for. Runs host code.
+void OnDestroy(HWND window) {
+    Record* record = RecordOf<Record>(window);
+    if (record != nullptr && HoldsValues(record->outline)) {
+        record->redrawOff = true; // there is nothing to be seen any more, nor to be scrolled
+        record->topIndex = 0;
+        record->offset = 0;
+        Reset(record->outline);
+    }
 }
 
 void OnNcDestroy(HWND window) {
@@ -191,6 +204,9 @@ extern "C" LRESULT CALLBACK VORNHierListWinFn(HWND window, UINT message, WPARAM 
         return OnNcCreate(window, wParam, lParam);
     case WM_CREATE:
         return OnCreate(window);
+    case WM_DESTROY:
+        OnDestroy(window);
+        return 0;
     case WM_NCDESTROY:
         OnNcDestroy(window);
         return DefWindowProcA(window, message, wParam, lParam);
