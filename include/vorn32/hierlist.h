@@ -420,8 +420,9 @@ VORNAPI LONG WINAPI olbSetProportionalScrollBars(HWND window, BOOL on);
 VORNAPI WORD WINAPI olbSetFlags(HWND window, WORD kept, WORD added);
 
 /*
- * Replaces the low 16 bits of the window's style (LBS_...), the border among them (OLBS_...; without
- * either the list has WS_BORDER's line if it had that before, else none). The window's size stays.
+ * Replaces the low 16 bits of the window's style (LBS_...), the border among them (OLBS_...;
+ * without either the list has WS_BORDER's line if it had that before, else none). The window's size
+ * stays.
  */
 VORNAPI void WINAPI olbChangeStyle(HWND window, WORD style);
 

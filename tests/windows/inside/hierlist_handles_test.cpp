@@ -50,32 +50,32 @@ LONG_PTR SendRecord(HWND list, UINT message, WPARAM wParam, const Record& record
 
 #define WITH_ITEM(function, code, refusal)                                                         \
     {                                                                                              \
-        #function, [](HWND list, HOLBITEM item, HOLBITEM) { return Number(function(list, item)); }, \
-            [](HWND list, HOLBITEM item, HOLBITEM) { return Send(list, code, 0, item); }, refusal  \
+#function, [](HWND list, HOLBITEM item, HOLBITEM) { return Number(function(list, item)); }, \
+            [](HWND list, HOLBITEM item, HOLBITEM) { return Send(list, code, 0, item); }, refusal      \
     }
 
 #define WITH_NUMBER(function, code, number, refusal, takesTop)                                     \
     {                                                                                              \
-        #function,                                                                                 \
+#function,                                                                                 \
             [](HWND list, HOLBITEM item, HOLBITEM) {                                               \
                 return Number(function(list, item, number));                                       \
             },                                                                                     \
             [](HWND list, HOLBITEM item, HOLBITEM) {                                               \
                 return Send(list, code, static_cast<WPARAM>(number), item);                        \
             },                                                                                     \
-            refusal, takesTop                                                                      \
+            refusal, takesTop       \
     }
 
 #define WITH_PAIR(function, code)                                                                  \
     {                                                                                              \
-        #function,                                                                                 \
+#function,                                                                                 \
             [](HWND list, HOLBITEM item, HOLBITEM other) {                                         \
                 return Number(function(list, item, other, 1));                                     \
             },                                                                                     \
             [](HWND list, HOLBITEM item, HOLBITEM other) {                                         \
                 return SendRecord(list, code, 1, OLBHANDLEPAIR{item, other});                      \
             },                                                                                     \
-            0                                                                                      \
+            0       \
     }
 
 char buffer[256];
@@ -364,7 +364,8 @@ TEST_F(HierListHandles, OfAnyItemAreBorneInAnyCall) {
         Caller caller(list, 4321 + style);
         for (int step = 0; step < 3000; ++step) {
             caller.Step();
-            ASSERT_EQ(caller.Fault(), "") << caller.name << ", step " << step << ", style " << style;
+            ASSERT_EQ(caller.Fault(), "")
+                << caller.name << ", step " << step << ", style " << style;
         }
         SendMessageA(list, WM_SETREDRAW, TRUE, 0);
         PumpMessages();
