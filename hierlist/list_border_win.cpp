@@ -28,6 +28,19 @@ Rect FrameOf(HWND window) {
     return Grown(inner, BorderWidth(kBorderSunken));
 }
 
+// The client size that a new border keeps. The outer size has room for scroll bars that may be
+// hidden, and is a pixel short beside a line border: while it is still what the last border gave,
+// the size that this one kept counts, or each call would change it further.
+Size ClientToKeep(HWND window, const Record& record, Size bars) {
+    RECT outer{};
+    GetWindowRect(window, &outer);
+    const Size now = {outer.right - outer.left, outer.bottom - outer.top};
+    const Rect client = ClientRect(window);
+    return now == OuterSize(record.keptClient, record.options, bars)
+               ? record.keptClient
+               : Size{client.right, client.bottom};
+}
+
 } // namespace
 
 LRESULT OnCalcSize(HWND window, WPARAM wParam, LPARAM lParam) {
@@ -67,11 +80,11 @@ void SetBorder(HWND window, std::uint32_t border) {
     if (record == nullptr) {
         return;
     }
-    const Rect client = ClientRect(window);
+    const Size bars = {GetSystemMetrics(SM_CXVSCROLL), GetSystemMetrics(SM_CYHSCROLL)};
+    record->keptClient = ClientToKeep(window, *record, bars);
     const DWORD style = StyleWithBorder(StyleOf(window), border);
     record->options.border = BorderFromStyle(style);
-    const Size size = OuterSize({client.right, client.bottom}, record->options,
-                                {GetSystemMetrics(SM_CXVSCROLL), GetSystemMetrics(SM_CYHSCROLL)});
+    const Size size = OuterSize(record->keptClient, record->options, bars);
     SetWindowLongA(window, GWL_STYLE, static_cast<LONG>(style));
     SetWindowPos(window, nullptr, 0, 0, size.width, size.height,
                  SWP_NOMOVE | SWP_NOZORDER | SWP_NOACTIVATE | SWP_FRAMECHANGED);

@@ -98,10 +98,13 @@ void ErrorSpace(void* context) {
 void RowsChanged(void* context) {
     Record& record = RecordIn(context);
     ForgetColumns(record);
-    if (IsDrawingOn(record)) {
-        UpdateBars(record.window);
+    const std::uint32_t rows = SeqCount(record.outline.visibleRoot);
+    const bool grew = rows > record.rowsBefore;
+    record.rowsBefore = rows;
+    if (grew && !IsDrawingOn(record)) {
+        record.barsStale = true; // all that there is to do: hosts add very many items meanwhile
     } else {
-        record.barsStale = true; // as UpdateBars does: hosts add very many items meanwhile
+        UpdateBars(record.window);
     }
 }
 

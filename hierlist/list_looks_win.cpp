@@ -172,7 +172,9 @@ extern "C" WORD WINAPI olbSetFlags(HWND window, WORD kept, WORD added) {
 
 extern "C" void WINAPI olbChangeStyle(HWND window, WORD style) {
     if (RecordOf<Record>(window) != nullptr) {
-        ChangeStyle(window, 0xFFFF, style);
+        constexpr DWORD kLowHalf = 0xFFFF;
+        const DWORD changed = (StyleOf(window) & ~kLowHalf) | style;
+        ChangeStyle(window, ~0u, StyleWithBorder(changed, BorderFromStyle(changed)));
         RenewFrame(window);
     }
 }

@@ -11,7 +11,8 @@ void ExtendDragTo(Actions& actions, Outline& outline, Input& input, std::uint32_
     if (hasAnchor && !input.dragged && (input.pressModifiers & kShift) == 0) {
         selection.rangeEnd = selection.anchor; // a range of its own, not the last one's
     }
-    if (hasAnchor) {
+    // A press with Shift leaves the end of its range where there is no anchor to begin it.
+    if (hasAnchor || (input.pressModifiers & kShift) != 0) {
         SelectAt(actions, outline, input, row, kShift, Tell::Parent);
     } else if ((input.pressModifiers & kControl) != 0) {
         MoveCaret(actions, outline, input, row); // the press has deselected a row

@@ -25,6 +25,7 @@ struct Record {
     SideTable sideTable; // of compatibility mode
     LCID sortLocale = 0; // of the items' sort keys; 0 when there are none yet
     ListOptions options;
+    Size keptClient;                // by the border that was set last
     Strips strips;                  // those of levels and of the host are the control's to free
     std::array<HBITMAP, 2> boxes{}; // of a closed and of an open item
     PreparedPictures prepared;
@@ -42,6 +43,8 @@ struct Record {
 
     ColumnTable columns;
     std::int32_t columnsHeight = -1; // the client height that the table is for; -1: to be built
+
+    std::uint32_t rowsBefore = 0; // that there were when they changed last
 
     bool redrawOff = false;    // by WM_SETREDRAW
     bool barsStale = false;    // the scroll bars are to be set when drawing is on again

@@ -60,6 +60,26 @@ void PullBack(HWND window, std::uint32_t topIndex) {
     }
 }
 
+void PullBackRows(HWND window) {
+    Record* record = RecordOf<Record>(window);
+    if (record->topIndex == 0) {
+        return;
+    }
+    const std::uint32_t last = LastTop(LayoutOf(*record));
+    if (record->topIndex > last) {
+        PullBack(window, last);
+    }
+}
+
+// What hosts ask and click goes by where the list is scrolled to, drawn or not.
+void PullBackView(HWND window) {
+    PullBackRows(window);
+    const Record* record = RecordOf<Record>(window);
+    if (record != nullptr && record->offset != 0) {
+        ScrollSidewaysTo(window, record->offset);
+    }
+}
+
 void SetBarsOnce(HWND window) {
     Record* record = RecordOf<Record>(window);
     const DWORD style = StyleOf(window);
@@ -84,10 +104,7 @@ void SetBarsOnce(HWND window) {
     if (record == nullptr) {
         return;
     }
-    const std::uint32_t last = LastTop(LayoutOf(*record));
-    if (record->topIndex > last) {
-        PullBack(window, last);
-    }
+    PullBackRows(window);
     if (RecordOf<Record>(window) != nullptr) {
         ScrollSidewaysTo(window, offset);
     }
@@ -203,6 +220,7 @@ void UpdateBars(HWND window) {
         SetBars(window);
     } else {
         record->barsStale = true;
+        PullBackView(window);
     }
 }
 

@@ -7,7 +7,7 @@
 namespace vorn::hierlist {
 
 // Sets the scroll bars to what the rows need and pulls the view back when it is beyond their end.
-// While drawing is off this is put off.
+// While drawing is off the bars are put off, and the view is pulled back all the same.
 void UpdateBars(HWND window);
 
 // Does what was put off, if anything was and WM_SETREDRAW allows it. With LBS_NOREDRAW that is

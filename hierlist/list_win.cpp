@@ -9,6 +9,7 @@
 #include "hierlist/list_paint_win.h"
 #include "hierlist/list_scroll_win.h"
 #include "hierlist/list_view_win.h"
+#include "hierlist/structure.h"
 
 #include <vorn32/hierlist.h>
 
@@ -68,6 +69,18 @@ LRESULT OnCreate(HWND window) {
     return RecordOf<Record>(window) != nullptr ? 0 : -1;
 }
 
+// Tells the parent of each value that goes, as the system's list box does: hosts free there what
+// the values stand for. Runs host code.
+void OnDestroy(HWND window) {
+    Record* record = RecordOf<Record>(window);
+    if (record != nullptr && HoldsValues(record->outline)) {
+        record->redrawOff = true; // there is nothing to be seen any more, nor to be scrolled
+        record->topIndex = 0;
+        record->offset = 0;
+        Reset(record->outline);
+    }
+}
+
 void OnNcDestroy(HWND window) {
     Record* record = RecordOf<Record>(window);
     if (record == nullptr) {
@@ -116,14 +129,22 @@ void OnSetRedraw(HWND window, bool on) {
     }
 }
 
-// Rows in columns lie elsewhere in another height, and highlights to the right edge end elsewhere.
+// Whether another size changes what is drawn where the list was before: rows in columns lie
+// elsewhere, and highlights to the right edge, rows that the parent draws and the focus of an empty
+// list end elsewhere.
+bool ReachesItsEdges(const Record& record) {
+    const bool showsFocusAlone =
+        record.outline.visibleRoot == nullptr && record.state.selection.hasFocus;
+    return (StyleOf(record.window) & (kStyleMultiColumn | kStyleOwnerDraw)) != 0 ||
+           HasOption(record.options, kOptionFullRow) || showsFocusAlone;
+}
+
 void OnSize(HWND window) {
     const Record* record = RecordOf<Record>(window);
     if (record == nullptr) {
         return;
     }
-    const bool multiColumn = (StyleOf(window) & kStyleMultiColumn) != 0;
-    if (multiColumn || HasOption(record->options, kOptionFullRow)) {
+    if (ReachesItsEdges(*record)) {
         InvalidateRect(window, nullptr, FALSE);
     }
     UpdateBars(window);
@@ -133,6 +154,7 @@ void OnStyleChanged(HWND window, WPARAM which) {
     Record* record = RecordOf<Record>(window);
     if (record != nullptr && static_cast<int>(which) == GWL_STYLE) {
         record->outline.style = StyleOf(window);
+        record->options.border = BorderFromStyle(record->outline.style);
         record->barsStale = true;
         ForgetColumns(*record);
     }
@@ -149,7 +171,7 @@ LRESULT OnDrawingMessage(HWND window, UINT message, WPARAM wParam, LPARAM lParam
         OnSetRedraw(window, wParam != 0);
         return 0;
     case WM_SYSCOLORCHANGE:
-        InvalidateRect(window, nullptr, FALSE);
+        RedrawWindow(window, nullptr, nullptr, RDW_INVALIDATE | RDW_FRAME);
         return 0;
     case WM_MEASUREITEM:
         return OnMeasureItem(window, wParam, lParam);
@@ -182,6 +204,9 @@ extern "C" LRESULT CALLBACK VORNHierListWinFn(HWND window, UINT message, WPARAM 
         return OnNcCreate(window, wParam, lParam);
     case WM_CREATE:
         return OnCreate(window);
+    case WM_DESTROY:
+        OnDestroy(window);
+        return 0;
     case WM_NCDESTROY:
         OnNcDestroy(window);
         return DefWindowProcA(window, message, wParam, lParam);

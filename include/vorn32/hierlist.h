@@ -419,7 +419,11 @@ VORNAPI LONG WINAPI olbSetProportionalScrollBars(HWND window, BOOL on);
 /* Keeps the options in `kept` (OLBO_...) and adds those in `added`, which are the result. */
 VORNAPI WORD WINAPI olbSetFlags(HWND window, WORD kept, WORD added);
 
-/* Replaces the low 16 bits of the window's style (LBS_...). */
+/*
+ * Replaces the low 16 bits of the window's style (LBS_...), the border among them (OLBS_...;
+ * without either the list has WS_BORDER's line if it had that before, else none). The window's size
+ * stays.
+ */
 VORNAPI void WINAPI olbChangeStyle(HWND window, WORD style);
 
 /*
@@ -446,8 +450,9 @@ VORNAPI DWORD WINAPI olbSetColor(HWND window, int part, COLORREF colorCode, BOOL
 
 /*
  * The border, VORN_BORDER_NONE to VORN_BORDER_SUNKEN. Setting gives the window the size that keeps
- * its client area, counting the scroll bars that the list was created with, shown or not; it
- * results in 1, 0 for no outline list.
+ * its client area, counting the scroll bars that the list was created with, shown or not; set once
+ * more, it keeps the client area that the first border kept. It results in 1, 0 for no outline
+ * list.
  */
 VORNAPI BOOL WINAPI olbSetBorderStyle(HWND window, DWORD border);
 VORNAPI LONG WINAPI olbGetBorderStyle(HWND window);

@@ -253,6 +253,27 @@ TEST(ListDrag, WithShiftGoesOnWithTheRange) {
     EXPECT_EQ(list.Selected(), "b c d");
 }
 
+TEST(ListDrag, WithShiftAndNoAnchorExtendsFromThePressedRow) {
+    for (const std::uint32_t modifiers : {kShift, kShift | kControl}) {
+        Letters list(kStyleExtendedSel);
+        list.Press(2, modifiers);
+        EXPECT_EQ(list.Selected(), "c");
+        list.Drag(4);
+        EXPECT_EQ(list.Selected(), "c d e") << modifiers;
+        list.Drag(1);
+        EXPECT_EQ(list.Selected(), "c b") << "and back beyond it";
+    }
+}
+
+TEST(ListDrag, WithShiftFromBelowTheRowsStartsWhereItReachesThem) {
+    Letters list(kStyleExtendedSel);
+    list.Press(kNoRow, kShift);
+    list.Drag(5);
+    EXPECT_EQ(list.Selected(), "f");
+    list.Drag(3);
+    EXPECT_EQ(list.Selected(), "f d e");
+}
+
 TEST(ListDrag, FromARowDeselectedWithControlMovesTheCaret) {
     Letters list(kStyleExtendedSel);
     list.Click(1);

@@ -136,7 +136,7 @@ struct SelectionModel {
         if ((style & kStyleExtendedSel) == 0) {
             return SelectAt(item, 0);
         }
-        if (!Place(rows, anchor)) {
+        if (!Place(rows, anchor) && (pressModifiers & kShift) == 0) {
             if ((pressModifiers & kControl) != 0) {
                 caret = item;
                 return false;

@@ -1,6 +1,7 @@
 // While drawing is off an outline list neither paints nor touches its scroll bars, however many
 // items come; both are right when it is on again.
 #include "tests/windows/support/outline_list.h"
+#include "tests/windows/support/spy.h"
 
 namespace {
 
@@ -152,6 +153,120 @@ TEST_F(HierListRedraw, NothingElseHappensEither) {
     UpdateWindow(list);
     // Three parents and twenty children; the top was pulled back when ten rows went.
     ExpectBar(list, 23, 18);
+}
+
+// ---- Where the list is scrolled to meanwhile ----
+
+// The two ways to turn drawing off, in a list of 200 rows that are scrolled to the end.
+class HierListUndrawn : public HierListRedraw, public testing::WithParamInterface<bool> {
+protected:
+    HWND CreateScrolled(DWORD style = WS_VSCROLL) {
+        HWND list = Create(style | LBS_NOTIFY);
+        AddRows(list, 200);
+        if (GetParam()) {
+            olbChangeStyle(list, static_cast<WORD>(style | LBS_NOTIFY | LBS_NOREDRAW));
+        } else {
+            SendMessageA(list, WM_SETREDRAW, FALSE, 0);
+        }
+        return list;
+    }
+};
+INSTANTIATE_TEST_SUITE_P(Ways, HierListUndrawn, testing::Bool(), [](const auto& way) {
+    return std::string(way.param ? "ByStyle" : "ByMessage");
+});
+
+TEST_P(HierListUndrawn, RefilledItBeginsWithItsFirstRow) {
+    HWND list = CreateScrolled();
+    olbSetTopIndex(list, 100);
+    ASSERT_EQ(olbGetTopIndex(list), 100);
+    olbResetContent(list);
+    EXPECT_EQ(olbGetTopIndex(list), 0);
+    for (const char* text : {"a", "b", "c", "d", "e"}) {
+        olbAddString(list, text);
+    }
+    EXPECT_EQ(olbGetTopIndex(list), 0);
+    EXPECT_EQ(olbGetBottomIndex(list), 4);
+    EXPECT_EQ(olbGetItemAtPoint(list, 5, kRowHeight + 5), 1);
+    SendMessageA(list, WM_LBUTTONDOWN, MK_LBUTTON, MAKELPARAM(60, kRowHeight + 5));
+    SendMessageA(list, WM_LBUTTONUP, 0, MAKELPARAM(60, kRowHeight + 5));
+    EXPECT_EQ(olbGetCurSel(list), 1);
+}
+
+TEST_P(HierListUndrawn, ItStaysOnTheLastPageOfTheRowsThatAreLeft) {
+    HWND list = CreateScrolled();
+    olbSetTopIndex(list, 195);
+    for (int row = 199; row >= 190; --row) {
+        olbDeleteString(list, row);
+        EXPECT_EQ(olbGetTopIndex(list), row - kRowsInView);
+    }
+    olbAddString(list, "more");
+    EXPECT_EQ(olbGetTopIndex(list), 185) << "what is pulled back stays there";
+}
+
+TEST_P(HierListUndrawn, MoreRoomPullsItBackAtOnce) {
+    HWND list = CreateScrolled();
+    olbSetTopIndex(list, 195);
+    SetWindowPos(list, nullptr, 0, 0, 120, 20 * kRowHeight, SWP_NOMOVE | SWP_NOZORDER);
+    EXPECT_EQ(olbGetTopIndex(list), 180);
+    olbSetItemHeight(list, -1, kRowHeight / 2);
+    EXPECT_EQ(olbGetTopIndex(list), 160);
+}
+
+TEST_P(HierListUndrawn, RowsOfTheirOwnHeightPullItBackToo) {
+    host.answer = [](const vorn::test::Message& message) -> std::optional<LRESULT> {
+        if (message.message == WM_MEASUREITEM) {
+            reinterpret_cast<MEASUREITEMSTRUCT*>(message.lParam)->itemHeight = 20;
+            return TRUE;
+        }
+        return std::nullopt;
+    };
+    HWND list = CreateScrolled(WS_VSCROLL | LBS_OWNERDRAWVARIABLE | LBS_HASSTRINGS);
+    olbSetTopIndex(list, 195);
+    for (int row = 195; row < 200; ++row) {
+        olbSetItemHeight(list, row, 10);
+    }
+    EXPECT_EQ(olbGetTopIndex(list), 193) << "five of 10 pixels and two of 20 fit into 100";
+    olbDeleteString(list, 0);
+    EXPECT_EQ(olbGetTopIndex(list), 192);
+    host.answer = nullptr;
+}
+
+TEST_P(HierListUndrawn, ANarrowerExtentPullsItBackSideways) {
+    HWND list = CreateScrolled(WS_HSCROLL);
+    olbSetHorizontalExtent(list, 1000);
+    SendMessageA(list, WM_HSCROLL, SB_RIGHT, 0);
+    RECT row{};
+    olbGetItemRect(list, 0, &row);
+    EXPECT_EQ(row.left, 120 - 1000);
+    olbSetHorizontalExtent(list, 200);
+    olbGetItemRect(list, 0, &row);
+    EXPECT_EQ(row.left, 120 - 200);
+}
+
+TEST_P(HierListUndrawn, FewerColumnsPullItBackSideways) {
+    HWND list = CreateScrolled(WS_HSCROLL | LBS_MULTICOLUMN);
+    olbSetColumnWidth(list, 40);
+    SendMessageA(list, WM_HSCROLL, SB_RIGHT, 0);
+    EXPECT_GT(olbGetTopIndex(list), 100);
+    for (int row = 199; row >= 7; --row) {
+        olbDeleteString(list, row);
+    }
+    EXPECT_EQ(olbGetTopIndex(list), 0);
+    EXPECT_EQ(olbGetItemAtPoint(list, 5, 5), 0);
+}
+
+TEST_P(HierListUndrawn, TheViewIsPulledBackByAScrollMessage) {
+    HWND list = CreateScrolled();
+    olbSetTopIndex(list, 195);
+    const vorn::test::Spy spy(list);
+    for (int i = 0; i < 100; ++i) {
+        olbAddString(list, "more");
+    }
+    EXPECT_EQ(spy.messages.size(), 0u);
+    olbResetContent(list);
+    const std::vector<vorn::test::Message> scrolled = spy.Received(WM_VSCROLL);
+    ASSERT_EQ(scrolled.size(), 1u);
+    EXPECT_EQ(scrolled[0].wParam, static_cast<WPARAM>(MAKELONG(SB_THUMBTRACK, 0)));
 }
 
 // What is painted for another reason is right, and so is what is asked.
