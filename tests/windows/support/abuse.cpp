@@ -94,9 +94,8 @@ HWND DestroyedWindow() {
     return window;
 }
 
-void SendRandomMessages(const std::function<HWND()>& create, std::uint32_t seed, int count,
-                        const std::vector<UINT>& leftOut) {
-    std::printf("random messages with seed %u\n", seed);
+void ChooseRandomMessages(const std::function<void(UINT, WPARAM, LPARAM)>& send, std::uint32_t seed,
+                          int count, const std::vector<UINT>& leftOut) {
     std::mt19937 random(seed);
     const std::array<LPARAM, 8> edges = {
         0, 1, -1, 100, 0x7FFFFFFF, static_cast<LONG>(0x80000000), 0x00050005, 0x7FFF7FFF};
@@ -104,21 +103,39 @@ void SendRandomMessages(const std::function<HWND()>& create, std::uint32_t seed,
         return random() % 2 == 0 ? edges[random() % edges.size()]
                                  : static_cast<LPARAM>(static_cast<LONG>(random()));
     };
-    HWND window = nullptr;
     for (int sent = 0; sent < count; ++sent) {
-        if (!IsWindow(window)) {
-            window = create();
-            ASSERT_NE(window, nullptr) << "nothing to send messages to";
-        }
         const UINT message = random() % (WM_USER + 513);
         if (!IsLeftOut(message) &&
             std::find(leftOut.begin(), leftOut.end(), message) == leftOut.end()) {
-            SendMessageA(window, message, static_cast<WPARAM>(parameter()), parameter());
+            const auto wParam = static_cast<WPARAM>(parameter());
+            send(message, wParam, parameter());
         }
         if (sent % 1000 == 0) {
             PumpMessages();
         }
     }
+}
+
+void SendRandomMessagesTo(HWND window, std::uint32_t seed, int count,
+                          const std::vector<UINT>& leftOut) {
+    const auto send = [window](UINT message, WPARAM wParam, LPARAM lParam) {
+        SendMessageA(window, message, wParam, lParam);
+    };
+    ChooseRandomMessages(send, seed, count, leftOut);
+}
+
+void SendRandomMessages(const std::function<HWND()>& create, std::uint32_t seed, int count,
+                        const std::vector<UINT>& leftOut) {
+    std::printf("random messages with seed %u\n", seed);
+    HWND window = nullptr;
+    const auto send = [&](UINT message, WPARAM wParam, LPARAM lParam) {
+        if (!IsWindow(window)) {
+            window = create();
+            ASSERT_NE(window, nullptr) << "nothing to send messages to";
+        }
+        SendMessageA(window, message, wParam, lParam);
+    };
+    ChooseRandomMessages(send, seed, count, leftOut);
     if (IsWindow(window)) {
         DestroyWindow(window);
     }
