@@ -15,6 +15,7 @@ constexpr char kForeignClass[] = "VornTestForeign";
 constexpr int kForeignExtra = 48;
 
 constexpr UINT kPopUpSystemMenu = 0x0313; // the platform's own, which its headers leave unnamed
+constexpr UINT kControlColor = 0x0019;
 
 // Messages that carry pointers, or that the default procedure answers with a modal loop.
 constexpr std::array<UINT, 41> kLeftOut = {
@@ -71,6 +72,14 @@ bool IsLeftOut(UINT message) {
            std::find(kLeftOut.begin(), kLeftOut.end(), message) != kLeftOut.end();
 }
 
+// The handle of a device context is not a random one: where the system takes one for a metafile's,
+// it follows it without a look.
+bool CarriesContext(UINT message) {
+    return message == WM_PAINT || message == WM_ERASEBKGND || message == WM_ICONERASEBKGND ||
+           message == kControlColor ||
+           (message >= WM_CTLCOLORMSGBOX && message <= WM_CTLCOLORSTATIC);
+}
+
 } // namespace
 
 HWND CreateForeignWindow() {
@@ -99,16 +108,16 @@ void ChooseRandomMessages(const std::function<void(UINT, WPARAM, LPARAM)>& send,
     std::mt19937 random(seed);
     const std::array<LPARAM, 8> edges = {
         0, 1, -1, 100, 0x7FFFFFFF, static_cast<LONG>(0x80000000), 0x00050005, 0x7FFF7FFF};
+    const auto edge = [&] { return edges[random() % edges.size()]; };
     const auto parameter = [&] {
-        return random() % 2 == 0 ? edges[random() % edges.size()]
-                                 : static_cast<LPARAM>(static_cast<LONG>(random()));
+        return random() % 2 == 0 ? edge() : static_cast<LPARAM>(static_cast<LONG>(random()));
     };
     for (int sent = 0; sent < count; ++sent) {
         const UINT message = random() % (WM_USER + 513);
         if (!IsLeftOut(message) &&
             std::find(leftOut.begin(), leftOut.end(), message) == leftOut.end()) {
-            const auto wParam = static_cast<WPARAM>(parameter());
-            send(message, wParam, parameter());
+            const LPARAM first = CarriesContext(message) ? edge() : parameter();
+            send(message, static_cast<WPARAM>(first), parameter());
         }
         if (sent % 1000 == 0) {
             PumpMessages();
