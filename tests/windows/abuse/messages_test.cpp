@@ -207,5 +207,23 @@ TEST_F(RandomMessages, ToProceduresWithOthersControls) {
     });
 }
 
+TEST_F(RandomMessages, ToDialogProceduresWithWindowsThatAreNone) {
+    for (const Subject& subject : Subjects()) {
+        Stage stage(subject);
+        HWND control = stage.Create(subject.styles[0]);
+        HWND foreign = CreateForeignWindow();
+        for (HWND window : {HWND{nullptr}, DestroyedWindow(), foreign, control}) {
+            NoteDeed("the dialogs' procedures with " + std::string(subject.className));
+            const auto send = [window](UINT message, WPARAM wParam, LPARAM lParam) {
+                CalendarProc(window, message, wParam, lParam);
+                fnFontSelProc(window, message, wParam, lParam);
+            };
+            ChooseRandomMessages(send, Seed(), kMessagesToHalves, {});
+        }
+        EXPECT_TRUE(IsWindow(control));
+        DestroyWindow(foreign);
+    }
+}
+
 } // namespace
 } // namespace vorn::test

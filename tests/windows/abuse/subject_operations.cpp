@@ -62,6 +62,13 @@ std::vector<Operation> EditOperations() {
         Key("digit", '1', '1'),
         Key("up", VK_UP),
         Key("end", VK_END),
+        {"end of a narrow one",
+         [](HWND window) {
+             SetWindowPos(window, nullptr, 0, 0, 30, 24, SWP_NOMOVE | SWP_NOZORDER);
+             SetFocus(window);
+             SendMessageA(window, WM_KEYDOWN, VK_END, 1);
+             SendMessageA(window, WM_KEYDOWN, VK_HOME, 1);
+         }},
         Key("backspace", VK_BACK, '\b'),
         Key("delete", VK_DELETE),
         Key("escape", VK_ESCAPE, '\x1B'),
@@ -167,6 +174,13 @@ std::vector<Operation> CommonOperations(POINT press) {
              SendMouse(window, WM_LBUTTONDBLCLK, x, y);
              SendMouse(window, WM_LBUTTONUP, x, y);
          }},
+    };
+}
+
+std::vector<Operation> Ends(POINT press) {
+    const auto x = static_cast<int>(press.x);
+    const auto y = static_cast<int>(press.y);
+    return {
         {"end", [](HWND window) { DestroyWindow(window); }},
         {"end while pressed",
          [=](HWND window) {
@@ -209,6 +223,11 @@ std::vector<Operation> NumEditOperations() {
                                            nmSetInteger(window, -7);
                                            const double number = 1e300;
                                            nmSetDouble(window, &number);
+                                       }},
+                                      {"too long a number",
+                                       [](HWND window) {
+                                           SendMessageA(window, EM_LIMITTEXT, 3, 0);
+                                           nmSetInteger(window, 123456);
                                        }},
                                       {"null", [](HWND window) { nmSetNull(window); }},
                                       {"format",
@@ -350,7 +369,8 @@ std::vector<Operation> DialOperations() {
 }
 
 std::vector<Operation> UdlrOperations() {
-    return {Hold("hold", 15, 5, {1, 2, 2}), Click("left", 4, 15)};
+    return {Hold("hold", 15, 5, {1, 2, 2}), Click("left", 4, 15), Click("right", 26, 15),
+            Click("down", 15, 26)};
 }
 
 std::vector<Operation> PercentBarOperations() {
@@ -434,6 +454,7 @@ std::vector<Operation> ListLookOperations() {
              olbSetIndent(list, 10);
              olbShowLines(list, FALSE);
              olbSetFullSelectRect(list, TRUE);
+             olbSetFlags(list, 0xFFFF, OLBO_ASKBACKGROUND);
              olbSetColor(list, OLBC_TEXT, 5, TRUE);
          }},
         {"border", [](HWND list) { olbSetBorderStyle(list, VORN_BORDER_RAISED); }},

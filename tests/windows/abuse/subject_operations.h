@@ -8,6 +8,9 @@ namespace vorn::test {
 // What happens to any window, with a click at this client point.
 std::vector<Operation> CommonOperations(POINT press);
 
+// The ends of a control; nothing can follow.
+std::vector<Operation> Ends(POINT press);
+
 std::vector<Operation> ButtonOperations();
 std::vector<Operation> NumEditOperations();
 std::vector<Operation> DateEditOperations();

@@ -14,7 +14,8 @@ namespace {
 const std::vector<UINT> kEditAddresses = {EM_GETSEL,     EM_GETRECT, EM_GETLINE,
                                           EM_REPLACESEL, EM_SETRECT, EM_GETTHUMB};
 
-std::vector<UINT> With(std::vector<UINT> first, const std::vector<UINT>& second) {
+template <class Element>
+std::vector<Element> With(std::vector<Element> first, const std::vector<Element>& second) {
     first.insert(first.end(), second.begin(), second.end());
     return first;
 }
@@ -27,6 +28,23 @@ std::vector<UINT> Range(UINT first, UINT last) {
     return range;
 }
 
+std::vector<Told> Commands(const std::vector<int>& codes) {
+    std::vector<Told> told;
+    for (const int code : codes) {
+        told.push_back({WM_COMMAND, code});
+    }
+    return told;
+}
+
+// Those of any edit, with codes and a message of its own.
+std::vector<Told> EditTells(const std::vector<int>& codes, UINT message = VDTM_CHANGED) {
+    static_assert(VDTM_CHANGED == VNMM_CHANGED && VDTM_CHANGED == VTMM_CHANGED);
+    static_assert(VDTM_OKTOCHANGE == VNMM_OKTOCHANGE && VDTM_OKTOCHANGE == VTMM_OKTOCHANGE);
+    const std::vector<Told> usual = Commands({EN_SETFOCUS, EN_KILLFOCUS, EN_UPDATE, EN_CHANGE});
+    return With(With(usual, Commands(codes)),
+                {{VDTM_OKTOCHANGE, -1}, {VDTM_CHANGED, -1}, {message, -1}});
+}
+
 void Nothing(HWND) {}
 
 void Press(HWND window, POINT point) {
@@ -35,17 +53,19 @@ void Press(HWND window, POINT point) {
 
 Subject ButtonSubject() {
     const POINT press = {50, 15};
-    return {VORN_BUTTON_CLASS,
-            "btn",
-            VORNButtonWinFn,
-            {VBTS_NOTIFY | VBTS_AUTOREPEAT | VBTS_PICTURE | VBTS_DEFAULT,
-             VBTS_NOTIFY | VBTS_TOGGLE | VBTS_SWATCH, VBTS_PICTUREONLY},
-            {100, 30},
-            press,
-            {},
-            Nothing,
-            [press](HWND window) { Press(window, press); },
-            ButtonOperations()};
+    return {
+        VORN_BUTTON_CLASS,
+        "btn",
+        VORNButtonWinFn,
+        {VBTS_NOTIFY | VBTS_AUTOREPEAT | VBTS_PICTURE | VBTS_DEFAULT,
+         VBTS_NOTIFY | VBTS_TOGGLE | VBTS_SWATCH, VBTS_PICTUREONLY},
+        {100, 30},
+        press,
+        {},
+        Nothing,
+        [press](HWND window) { Press(window, press); },
+        ButtonOperations(),
+        Commands({VBTN_CLICKED, VBTN_DOWN, VBTN_UP, VBTN_DISABLED, VBTN_SETFOCUS, VBTN_KILLFOCUS})};
 }
 
 Subject NumEditSubject() {
@@ -62,7 +82,8 @@ Subject NumEditSubject() {
             [](HWND window) {
                 Press(window, {84, 6});
             },
-            NumEditOperations()};
+            NumEditOperations(),
+            EditTells({VNMN_TEXTCUT}, WM_CTLCOLOREDIT)};
 }
 
 Subject DateEditSubject() {
@@ -77,7 +98,8 @@ Subject DateEditSubject() {
                                   VDTM_SETMONTHLITERALS, VDTM_SETDAYLITERALS}),
             [](HWND window) { dtSetDateString(window, "3/5/2007"); },
             nullptr,
-            DateEditOperations()};
+            DateEditOperations(),
+            EditTells({EN_MAXTEXT, EN_HSCROLL})};
 }
 
 Subject TimeEditSubject() {
@@ -91,7 +113,8 @@ Subject TimeEditSubject() {
                                   VTMM_SETTIME, VTMM_GETTIMESTRING, VTMM_SETTIMESTRING}),
             [](HWND window) { tmSetTimeString(window, "2:05:09 PM"); },
             [](HWND window) { tmStartClock(window); },
-            TimeEditOperations()};
+            TimeEditOperations(),
+            EditTells({EN_MAXTEXT, EN_HSCROLL})};
 }
 
 Subject FontSelectSubject() {
@@ -104,14 +127,22 @@ Subject FontSelectSubject() {
             {VFSM_SETFONTFAMILY, VFSM_GETFONTFAMILY},
             Nothing,
             nullptr,
-            FontSelectOperations()};
+            FontSelectOperations(),
+            With(Commands({VFSN_FONTCHANGE, VFSN_SIZECHANGE}), {{VORN_WM_IS_HOST_APP, -1}})};
 }
 
 Subject CalendarSubject() {
-    return {VORN_CALENDAR_CLASS,     "",         VORNCalendarWinFn,
-            {WS_TABSTOP, WS_BORDER}, {602, 442}, {20, 60},
-            {VCALM_GETDATE},         Nothing,    nullptr,
-            CalendarOperations()};
+    return {VORN_CALENDAR_CLASS,
+            "",
+            VORNCalendarWinFn,
+            {WS_TABSTOP, WS_BORDER},
+            {602, 442},
+            {20, 60},
+            {VCALM_GETDATE},
+            Nothing,
+            nullptr,
+            CalendarOperations(),
+            Commands({VCALN_SELECT, VCALN_DBLCLK})};
 }
 
 Subject DialSubject() {
@@ -126,7 +157,8 @@ Subject DialSubject() {
             [](HWND window) {
                 Press(window, {5, 55});
             },
-            DialOperations()};
+            DialOperations(),
+            {{WM_VSCROLL, -1}}};
 }
 
 Subject UdlrSubject() {
@@ -141,7 +173,8 @@ Subject UdlrSubject() {
             [](HWND window) {
                 Press(window, {15, 5});
             },
-            UdlrOperations()};
+            UdlrOperations(),
+            Commands({VUDN_UP, VUDN_RIGHT, VUDN_DOWN, VUDN_LEFT})};
 }
 
 Subject PercentBarSubject() {
@@ -154,7 +187,8 @@ Subject PercentBarSubject() {
             {},
             [](HWND window) { pbSetProgress(window, 40); },
             nullptr,
-            PercentBarOperations()};
+            PercentBarOperations(),
+            {{WM_CTLCOLORDLG, -1}}};
 }
 
 Subject ListSubject() {
@@ -176,14 +210,24 @@ Subject ListSubject() {
                 Press(window, {60, 9});
                 SendMouse(window, WM_MOUSEMOVE, 60, 300);
             },
-            ListOperations()};
+            ListOperations(),
+            With(Commands({LBN_SELCHANGE, LBN_DBLCLK, LBN_SETFOCUS, LBN_KILLFOCUS}),
+                 {{WM_DRAWITEM, -1},
+                  {WM_MEASUREITEM, -1},
+                  {WM_COMPAREITEM, -1},
+                  {WM_DELETEITEM, -1},
+                  {WM_VKEYTOITEM, -1},
+                  {WM_CHARTOITEM, -1},
+                  {WM_CTLCOLORLISTBOX, -1}})};
 }
 
+// None is owner-drawn: the system's own list does not bear to lose its window as it asks for a
+// height.
 Subject ComboBoxSubject() {
     return {VORN_COMBOBOX_CLASS,
             "",
             VORNCBFunction,
-            {CBS_DROPDOWN | WS_VSCROLL, CBS_SIMPLE, CBS_DROPDOWNLIST | CBS_OWNERDRAWVARIABLE},
+            {CBS_DROPDOWN | WS_VSCROLL, CBS_SIMPLE, CBS_DROPDOWNLIST | CBS_SORT},
             {100, 120},
             {90, 8},
             {CB_ADDSTRING, CB_DIR, CB_FINDSTRING, CB_FINDSTRINGEXACT, CB_GETCOMBOBOXINFO,
@@ -191,7 +235,8 @@ Subject ComboBoxSubject() {
              CB_SELECTSTRING, CB_INITSTORAGE, WM_MEASUREITEM},
             FillComboBox,
             nullptr,
-            ComboBoxOperations()};
+            ComboBoxOperations(),
+            Commands({CBN_DROPDOWN, CBN_CLOSEUP, CBN_SELCHANGE, CBN_SETFOCUS, CBN_KILLFOCUS})};
 }
 
 } // namespace
@@ -215,6 +260,8 @@ const Subject& SubjectOf(const char* className) {
 std::vector<Operation> OperationsOf(const Subject& subject) {
     std::vector<Operation> operations = CommonOperations(subject.press);
     operations.insert(operations.end(), subject.operations.begin(), subject.operations.end());
+    const std::vector<Operation> ends = Ends(subject.press);
+    operations.insert(operations.end(), ends.begin(), ends.end());
     return operations;
 }
 
@@ -244,6 +291,10 @@ HostWindow& Stage::host() {
 
 HWND Stage::CreateEmpty(DWORD style) {
     Clear();
+    return CreateHere(style);
+}
+
+HWND Stage::CreateHere(DWORD style) {
     control_ = host().Create(subject_.className, style, 5, 5, subject_.size.cx, subject_.size.cy);
     return control_;
 }

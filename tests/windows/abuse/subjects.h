@@ -18,6 +18,13 @@ struct Operation {
     std::function<void(HWND)> run;
 };
 
+// A message of a control's, with a notification code or another number that must be in the high
+// word of wParam; -1 where there is none.
+struct Told {
+    UINT message;
+    int code;
+};
+
 struct Subject {
     const char* className;
     const char* prefix; // what the names of its functions begin with; empty when it has none
@@ -29,6 +36,7 @@ struct Subject {
     std::function<void(HWND)> fill; // gives it something to hold
     std::function<void(HWND)> startTimer;
     std::vector<Operation> operations; // besides those that every window has
+    std::vector<Told> tells;           // what they make it tell its parent or itself
 };
 
 const std::vector<Subject>& Subjects();
@@ -36,10 +44,10 @@ const std::vector<Subject>& Subjects();
 // The subject of a class.
 const Subject& SubjectOf(const char* className);
 
-// The operations of every window, then the class's own.
+// The operations of every window, the class's own, then the ends.
 std::vector<Operation> OperationsOf(const Subject& subject);
 
-// Names of the classes, for a test each.
+// Tells which class is at fault.
 void ForEachSubject(const std::function<void(const Subject&)>& act);
 
 // A host with one control and an edit beside it, made anew whenever it is gone.
@@ -54,6 +62,8 @@ public:
     HWND Create(DWORD style);
     // Without what it holds.
     HWND CreateEmpty(DWORD style);
+    // The same in the host as it is.
+    HWND CreateHere(DWORD style);
     // Destroys the control, and with it what it left in the queue.
     void Clear();
 
