@@ -1,0 +1,137 @@
+// Hosts that give senseless answers: to what a control asks itself or its parts, in a procedure
+// before its own, and to what it asks its parent.
+#include "tests/windows/abuse/imports.h"
+#include "tests/windows/abuse/subjects.h"
+#include "tests/windows/support/crash.h"
+#include "tests/windows/support/spy.h"
+
+#include <gtest/gtest.h>
+#include <vorn32.h>
+
+namespace vorn::test {
+namespace {
+
+// Messages of controls: the system's for buttons, edits, lists and combo boxes, and private ones.
+bool IsControls(UINT message) {
+    const bool ofTheSystem = (message >= EM_GETSEL && message <= EM_GETIMESTATUS) ||
+                             (message >= BM_GETCHECK && message <= BM_SETDONTCLICK) ||
+                             (message >= CB_GETEDITSEL && message <= CB_MSGMAX) ||
+                             (message >= LB_ADDSTRING && message <= LB_MSGMAX);
+    return ofTheSystem || message >= WM_USER;
+}
+
+// What controls ask a parent.
+bool IsAsked(UINT message) {
+    switch (message) {
+    case WM_COMMAND:
+    case WM_VSCROLL:
+    case WM_DRAWITEM:
+    case WM_MEASUREITEM:
+    case WM_COMPAREITEM:
+    case WM_DELETEITEM:
+    case WM_VKEYTOITEM:
+    case WM_CHARTOITEM:
+        return true;
+    default:
+        return (message >= WM_CTLCOLORMSGBOX && message <= WM_CTLCOLORSTATIC) || message >= WM_USER;
+    }
+}
+
+LRESULT AnswerAsParent(const Message& message, LRESULT answer) {
+    if (message.message == WM_MEASUREITEM) {
+        auto* question = reinterpret_cast<MEASUREITEMSTRUCT*>(message.lParam);
+        question->itemHeight = static_cast<UINT>(answer);
+        question->itemWidth = static_cast<UINT>(answer);
+    }
+    return answer;
+}
+
+BOOL CALLBACK Collect(HWND window, LPARAM parts) {
+    reinterpret_cast<std::vector<HWND>*>(parts)->push_back(window);
+    return TRUE;
+}
+
+// The control, and the system's windows that it is made of. A combo box is the system's own, which
+// is not to be confused.
+std::vector<HWND> PartsOf(HWND control, const Subject& subject) {
+    std::vector<HWND> parts = {control};
+    if (subject.className != std::string(VORN_COMBOBOX_CLASS)) {
+        EnumChildWindows(control, Collect, reinterpret_cast<LPARAM>(&parts));
+    }
+    return parts;
+}
+
+class SenselessAnswers : public testing::Test {
+protected:
+    WatchedImports watched;
+
+    // Runs each operation on a control while the procedures before its own answer this.
+    static void RunAnswering(const Subject& subject, DWORD style, LRESULT answer) {
+        Stage stage(subject);
+        for (const Operation& operation : OperationsOf(subject)) {
+            SCOPED_TRACE(operation.name);
+            NoteDeed(operation.name + " of a " + subject.className);
+            HWND control = stage.Create(style);
+            std::vector<std::unique_ptr<Spy>> spies;
+            for (HWND part : PartsOf(control, subject)) {
+                spies.push_back(std::make_unique<Spy>(part));
+                spies.back()->answer = [=](const Message& message) {
+                    return IsControls(message.message) ? std::optional<LRESULT>(answer)
+                                                       : std::nullopt;
+                };
+            }
+            operation.run(control);
+            spies.clear();
+            stage.Clear();
+            ASSERT_EQ(WatchedImports::Left(), "");
+        }
+    }
+
+    // The same with what the parent answers.
+    static void RunInParent(const Subject& subject, DWORD style, LRESULT answer) {
+        Stage stage(subject);
+        stage.host();
+        for (const Operation& operation : OperationsOf(subject)) {
+            SCOPED_TRACE(operation.name);
+            NoteDeed(operation.name + " of a " + subject.className);
+            stage.Clear();
+            stage.host().answer = [=](const Message& message) {
+                return IsAsked(message.message)
+                           ? std::optional<LRESULT>(AnswerAsParent(message, answer))
+                           : std::nullopt;
+            };
+            HWND control = stage.CreateHere(style);
+            if (control != nullptr) {
+                subject.fill(control);
+                operation.run(control);
+            }
+            stage.Clear();
+            ASSERT_EQ(WatchedImports::Left(), "");
+        }
+    }
+};
+
+TEST_F(SenselessAnswers, ToWhatAControlAsksItself) {
+    ForEachSubject([](const Subject& subject) {
+        for (const DWORD style : subject.styles) {
+            for (const LRESULT answer : {0, 1, -1}) {
+                SCOPED_TRACE(answer);
+                RunAnswering(subject, style, answer);
+            }
+        }
+    });
+}
+
+TEST_F(SenselessAnswers, ToWhatAControlAsksItsParent) {
+    ForEachSubject([](const Subject& subject) {
+        for (const DWORD style : subject.styles) {
+            for (const LRESULT answer : {0, 1, -1, 2, 99, 0x7FFFFFFF, -2147483647 - 1}) {
+                SCOPED_TRACE(answer);
+                RunInParent(subject, style, answer);
+            }
+        }
+    });
+}
+
+} // namespace
+} // namespace vorn::test

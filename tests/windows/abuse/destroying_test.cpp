@@ -1,0 +1,212 @@
+// Hosts that destroy a window inside a call of theirs: each call in turn, until an operation makes
+// no more.
+#include "tests/windows/abuse/creation.h"
+#include "tests/windows/abuse/imports.h"
+#include "tests/windows/abuse/subjects.h"
+#include "tests/windows/support/crash.h"
+#include "tests/windows/support/spy.h"
+
+#include <algorithm>
+#include <gtest/gtest.h>
+#include <vorn32.h>
+
+namespace vorn::test {
+namespace {
+
+constexpr int kMostCalls = 3000;
+
+// What is destroyed.
+struct Target {
+    const char* name;
+    HWND (*find)(HWND control);
+};
+
+constexpr Target kTargets[] = {
+    {"the control", [](HWND control) { return control; }},
+    {"its parent", [](HWND control) { return GetParent(control); }},
+    {"the focus", [](HWND) { return GetFocus(); }},
+};
+
+// An end that has begun is not begun anew.
+bool IsCall(UINT message) {
+    return message != WM_DESTROY && message != WM_NCDESTROY;
+}
+
+class Destroying : public testing::Test {
+protected:
+    WatchedImports watched;
+
+    // Runs an operation and destroys a window inside the call of this number. Whether it came so
+    // far.
+    static bool RunTo(Stage& stage, DWORD style, const Operation& operation, const Target& target,
+                      int number) {
+        HWND control = stage.Create(style);
+        EXPECT_NE(control, nullptr);
+        int calls = 0;
+        bool armed = true;
+        const auto count = [&](const Message& message) {
+            if (armed && IsCall(message.message) && calls++ == number) {
+                armed = false;
+                DestroyWindow(target.find(control));
+            }
+        };
+        Spy spy(control);
+        spy.before = count;
+        stage.host().answer = [&](const Message& message) -> std::optional<LRESULT> {
+            count(message);
+            return std::nullopt;
+        };
+        operation.run(control);
+        const bool reached = !armed;
+        armed = false;
+        stage.Clear();
+        return reached;
+    }
+
+    // The same in the calls of a creation.
+    static bool CreateTo(Stage& stage, const char* className, DWORD style, const Target& target,
+                         int number) {
+        stage.Clear();
+        stage.host();
+        bool reached = false;
+        {
+            CreationWatch watch(className);
+            int calls = 0;
+            const auto count = [&](const Message& message) {
+                if (!reached && IsCall(message.message) && calls++ == number) {
+                    reached = true;
+                    DestroyWindow(target.find(watch.window()));
+                }
+            };
+            watch.before = count;
+            stage.host().answer = [&](const Message& message) -> std::optional<LRESULT> {
+                count(message);
+                return std::nullopt;
+            };
+            stage.CreateHere(style);
+            stage.Clear();
+        }
+        return reached;
+    }
+
+    // The number of calls until there are no more.
+    template <class Run>
+    static int RunThrough(Run run) {
+        int number = 0;
+        while (number < kMostCalls && run(number)) {
+            ++number;
+            if (WatchedImports::Left() != "") {
+                ADD_FAILURE() << "in call " << number - 1 << " left\n" << WatchedImports::Left();
+                WatchedImports::Forget();
+            }
+        }
+        EXPECT_LT(number, kMostCalls) << "does not come to an end";
+        return number;
+    }
+
+    // All targets in the first style, which tells the most; the control itself in all.
+    static void RunAll(const char* className) {
+        const Subject& subject = SubjectOf(className);
+        Stage stage(subject);
+        int all = 0;
+        for (const DWORD style : subject.styles) {
+            for (const Target& target : kTargets) {
+                if (style != subject.styles[0] && &target != &kTargets[0]) {
+                    continue;
+                }
+                const std::string deed = std::string("style ") + std::to_string(style) + " of a " +
+                                         className + ", destroying " + target.name;
+                SCOPED_TRACE(deed);
+                NoteDeed("creation, " + deed);
+                all += RunThrough(
+                    [&](int number) { return CreateTo(stage, className, style, target, number); });
+                for (const Operation& operation : OperationsOf(subject)) {
+                    SCOPED_TRACE(operation.name);
+                    NoteDeed(operation.name + ", " + deed);
+                    all += RunThrough(
+                        [&](int number) { return RunTo(stage, style, operation, target, number); });
+                }
+            }
+        }
+        std::printf("%d calls\n", all);
+    }
+};
+
+// What a class tells its parent or itself while the operations run.
+std::vector<Message> ToldBy(const Subject& subject) {
+    std::vector<Message> told;
+    Stage stage(subject);
+    for (const Operation& operation : OperationsOf(subject)) {
+        HWND control = stage.Create(subject.styles[0]);
+        Spy spy(control);
+        stage.host().answer = [&](const Message& message) -> std::optional<LRESULT> {
+            told.push_back(message);
+            return std::nullopt;
+        };
+        operation.run(control);
+        stage.Clear();
+        told.insert(told.end(), spy.messages.begin(), spy.messages.end());
+    }
+    return told;
+}
+
+TEST_F(Destroying, ComesToAllThatAClassTells) {
+    ForEachSubject([](const Subject& subject) {
+        const std::vector<Message> told = ToldBy(subject);
+        for (const Told& expected : subject.tells) {
+            const auto isIt = [&](const Message& message) {
+                return message.message == expected.message &&
+                       (expected.code < 0 || HIWORD(message.wParam) == expected.code);
+            };
+            EXPECT_TRUE(std::any_of(told.begin(), told.end(), isIt))
+                << expected.message << " with " << expected.code;
+        }
+    });
+}
+
+TEST_F(Destroying, InCallsOfAButton) {
+    RunAll(VORN_BUTTON_CLASS);
+}
+
+TEST_F(Destroying, InCallsOfANumericEdit) {
+    RunAll(VORN_NUMEDIT_CLASS);
+}
+
+TEST_F(Destroying, InCallsOfADateEdit) {
+    RunAll(VORN_DATEEDIT_CLASS);
+}
+
+TEST_F(Destroying, InCallsOfATimeEdit) {
+    RunAll(VORN_TIMEEDIT_CLASS);
+}
+
+TEST_F(Destroying, InCallsOfAFontSelector) {
+    RunAll(VORN_FONTSELECT_CLASS);
+}
+
+TEST_F(Destroying, InCallsOfACalendar) {
+    RunAll(VORN_CALENDAR_CLASS);
+}
+
+TEST_F(Destroying, InCallsOfADial) {
+    RunAll(VORN_DIAL_CLASS);
+}
+
+TEST_F(Destroying, InCallsOfASpinPad) {
+    RunAll(VORN_UDLR_CLASS);
+}
+
+TEST_F(Destroying, InCallsOfAPercentBar) {
+    RunAll(VORN_PERCENTBAR_CLASS);
+}
+
+TEST_F(Destroying, InCallsOfAnOutlineList) {
+    RunAll(VORN_HIERLIST_CLASS);
+}
+
+TEST_F(Destroying, InCallsOfAComboBox) {
+    RunAll(VORN_COMBOBOX_CLASS);
+}
+
+} // namespace
+} // namespace vorn::test
