@@ -16,24 +16,24 @@
 
 /* Window styles. */
 #define VBTS_DEFAULT 0x0001     /* the dialog's default button: framed, answers Return */
-#define VBTS_PICTUREONLY 0x0002 /* no caption; at creation: the strip of 16 by 15 pictures */
-#define VBTS_PICTURE 0x0004
-#define VBTS_SWATCH 0x0008 /* a colour swatch; counts without VBTS_PICTURE */
-#define VBTS_AUTOREPEAT 0x0200
-#define VBTS_TOGGLE 0x0400 /* each press flips between down and up */
-#define VBTS_NOTIFY 0x4000 /* send all notifications, not only clicks */
+#define VBTS_PICTUREONLY 0x0002 /* picture centred, no caption; at creation: strip of 16 by 15 */
+#define VBTS_PICTURE 0x0004     /* a picture */
+#define VBTS_SWATCH 0x0008      /* a colour swatch; counts without VBTS_PICTURE */
+#define VBTS_AUTOREPEAT 0x0200  /* clicks at the press and on while it is held */
+#define VBTS_TOGGLE 0x0400      /* each press flips between down and up; clicks when going down */
+#define VBTS_NOTIFY 0x4000      /* send all notifications, not only clicks */
 
 /* Notification codes. All but VBTN_CLICKED need VBTS_NOTIFY. */
-#define VBTN_CLICKED 0
-#define VBTN_DOWN 2
-#define VBTN_UP 3
-#define VBTN_DISABLED 4
-#define VBTN_SETFOCUS 6
-#define VBTN_KILLFOCUS 7
+#define VBTN_CLICKED 0   /* it was clicked */
+#define VBTN_DOWN 2      /* it went down */
+#define VBTN_UP 3        /* it came up */
+#define VBTN_DISABLED 4  /* it was disabled */
+#define VBTN_SETFOCUS 6  /* it got the focus */
+#define VBTN_KILLFOCUS 7 /* it lost the focus */
 
 /* What btnGetState answers: none, one or both of these. */
-#define VBTST_DOWN 4
-#define VBTST_FOCUS 8
+#define VBTST_DOWN 4  /* it is down */
+#define VBTST_FOCUS 8 /* it has the focus */
 
 /*
  * Messages: the functions' twins, beside BM_GETSTATE, BM_SETSTATE and BM_SETSTYLE. Those that set

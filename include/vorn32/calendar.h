@@ -14,12 +14,12 @@
 
 #include <vorn32/library.h>
 
-/* What VCALM_GETDATE tells of a date. */
+/* What VCALM_GETDATE tells of a date. All fields are 0 when nothing is selected. */
 /* NOLINTNEXTLINE(modernize-use-using): C has no other way */
 typedef struct VORNCALENDARDATE {
-    WORD month;
-    WORD day;
-    WORD year;
+    WORD month;    /* 1 to 12 */
+    WORD day;      /* 1 to 31 */
+    WORD year;     /* 0 to 9999 */
     WORD weekday;  /* 0 for Sunday to 6 */
     WORD leapYear; /* 1 when February of that year has 29 days, else 0 */
 } VORNCALENDARDATE;
@@ -34,7 +34,8 @@ typedef struct VORNCALENDARDATE {
 /*
  * lParam: pointer to a VORNCALENDARDATE to fill, or null. Results in the day number of the selected
  * date: 0 for 1 January of the year 1, 693597 for 1 January 1900, modulo 2^32 for the year 0.
- * Without a selection the record is zeroed and the result is 0.
+ * The difference of two is the number of days between their dates. Without a selection the record
+ * is zeroed and the result is 0.
  */
 #define VCALM_GETDATE (WM_USER + 201)
 

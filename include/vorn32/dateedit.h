@@ -26,26 +26,26 @@
 #define VDTS_DIGITS 0x0010   /* characters drawn as on a display of digits */
 #define VDTS_CELLS 0x0020    /* each character in a box; wins over VDTS_DIGITS */
 #define VDTS_READONLY 0x0800 /* keys beep, and presses do nothing */
-#define VDTS_SUNKEN 0x1000
-#define VDTS_RAISED 0x2000
-#define VDTS_LINE 0x4000
+#define VDTS_SUNKEN 0x1000   /* sunken border */
+#define VDTS_RAISED 0x2000   /* raised border */
+#define VDTS_LINE 0x4000     /* a line around it */
 
 /* What stands at a position of the text. */
-#define DT_DAY 1
-#define DT_MONTH 2
-#define DT_YEAR 3
+#define DT_DAY 1   /* the day */
+#define DT_MONTH 2 /* the month */
+#define DT_YEAR 3  /* the year */
 
 /* What dtSetDisplayStyle takes. */
-#define VDTD_TEXT 0
-#define VDTD_DIGITS 1
-#define VDTD_CELLS 2
+#define VDTD_TEXT 0   /* written in the font */
+#define VDTD_DIGITS 1 /* as VDTS_DIGITS */
+#define VDTD_CELLS 2  /* as VDTS_CELLS */
 
 /* A date as numbers. 0 September of the year 0 is no date. */
 /* NOLINTNEXTLINE(modernize-use-using): C has no other way */
 typedef struct DtDate {
-    WORD month;
-    WORD day;
-    WORD year;
+    WORD month; /* 1 to 12 */
+    WORD day;   /* 1 to 31 */
+    WORD year;  /* 0 to 9999 */
 } DtDate;
 
 /* Date and layout. */
@@ -54,16 +54,16 @@ typedef struct DtEditParams {
     DWORD size;             /* sizeof(DtEditParams), 48; of any other size nothing is done */
     DWORD setDate;          /* non-zero: take the date */
     WORD year;              /* 0: today, UTC's */
-    WORD month;             /* */
-    WORD day;               /* */
-    WORD reserved1;         /* */
+    WORD month;             /* 1 to 12 */
+    WORD day;               /* 1 to 31 */
+    WORD reserved1;         /* not used */
     DWORD keepLayout;       /* non-zero: the rest is ignored */
     WORD separator;         /* a character; 0: the user's */
-    WORD reserved2;         /* */
+    WORD reserved2;         /* not used */
     DWORD monthLeadingZero; /* non-zero: months of two digits */
     DWORD dayLeadingZero;   /* non-zero: days of two digits */
     DWORD fourDigitYear;    /* non-zero: years of four digits, otherwise of two */
-    DWORD kinds[3];         /* DT_DAY, DT_MONTH or DT_YEAR; the first 0: the user's layout */
+    DWORD kinds[3]; /* DT_ codes by position; the first 0: these and the flags are the user's */
 } DtEditParams;
 
 /*
@@ -77,7 +77,7 @@ typedef struct DtEditParams {
 #define VDTM_GETDAY (WM_USER + 139)             /* */
 #define VDTM_GETYEAR (WM_USER + 140)            /* */
 #define VDTM_SETDATE (WM_USER + 143)            /* lParam: DtDate, or null */
-#define VDTM_SETDIALOGCOLOR (WM_USER + 144)     /* lParam: colour code, slot 16 */
+#define VDTM_SETDIALOGCOLOR (WM_USER + 144)     /* lParam: colour code, slot 16 of dtSetColor */
 #define VDTM_ENABLEERASE (WM_USER + 145)        /* wParam: enable */
 #define VDTM_SETDISPLAYSTYLE (WM_USER + 148)    /* wParam: style */
 #define VDTM_ENABLECALENDAR (WM_USER + 149)     /* wParam: enable */
@@ -89,7 +89,7 @@ typedef struct DtEditParams {
 #define VDTM_GETMINWIDTH (WM_USER + 156)        /* */
 #define VDTM_SETBACKGROUNDCOLOR (WM_USER + 157) /* lParam: colour code, slot 2 */
 #define VDTM_SETTEXTCOLOR (WM_USER + 158)       /* lParam: colour code, slot 4 */
-#define VDTM_OKTOCHANGE (WM_USER + 159)         /* */
+#define VDTM_OKTOCHANGE (WM_USER + 159)         /* sent to itself; result: 0 to refuse, else 1 */
 #define VDTM_SETMONTHLITERALS (WM_USER + 160)   /* lParam: list */
 #define VDTM_SETDAYLITERALS (WM_USER + 161)     /* lParam: text */
 #define VDTM_SETBORDERSTYLE (WM_USER + 162)     /* wParam: border style */
@@ -119,8 +119,8 @@ extern "C" {
 #endif
 
 /*
- * Fills date, separator, month's leading zero and kinds, setDate and keepLayout with 1. The other
- * fields stay, so that the record handed back to dtSetEditParams changes the date alone.
+ * Fills size, date, separator, month's leading zero and kinds, setDate and keepLayout with 1. The
+ * other fields stay, so that the record handed back to dtSetEditParams changes the date alone.
  */
 VORNAPI void WINAPI dtGetEditParams(HWND window, DtEditParams* params);
 
@@ -157,7 +157,10 @@ VORNAPI BOOL WINAPI dtSetColor(HWND window, int slot, COLORREF colorCode);
  */
 VORNAPI LONG WINAPI dtEnableErase(HWND window, BOOL enable);
 
-/* Sets the display style; any other number takes the style bits away and stays without effect. */
+/*
+ * Sets the display style, one of the VDTD_ styles; any other number takes the style bits away and
+ * stays without effect. Redraws.
+ */
 VORNAPI BOOL WINAPI dtSetDisplayStyle(HWND window, int style);
 
 /* Shows (non-zero) or hides the drop-down button. Redraws. */
@@ -183,7 +186,10 @@ VORNAPI char* WINAPI dtGetDateString(HWND window, char* buffer);
  */
 VORNAPI BOOL WINAPI dtSetDateString(HWND window, const char* text);
 
-/* The least size that the control needs with its font, border included; 24 and 80 without one. */
+/*
+ * The least size that the control needs: the height of its font; the width of a character and the
+ * drop-down button; and the border. 24 and 80 when there is no date edit.
+ */
 VORNAPI int WINAPI dtGetMinHeight(HWND window);
 VORNAPI int WINAPI dtGetMinWidth(HWND window);
 
@@ -214,9 +220,10 @@ VORNAPI BOOL WINAPI dtSetBorderStyle(HWND window, DWORD borderStyle);
 VORNAPI void WINAPI dtSetButtonStyle(HWND window, DWORD buttonStyle);
 
 /*
- * Replaces a caption of the calendar pop-up for all date edits of the process, cut to 31
- * characters: 0 "&OK", 1 "&Cancel", 2 "&Erase". Answers the stored caption, for any other number
- * that number itself. The window does not count, and creating a date edit brings the captions back.
+ * Replaces a caption of the calendar pop-up's system buttons, for all date edits of the process,
+ * cut to 31 characters: 0 "&OK", 1 "&Cancel", 2 "&Erase". Answers the stored caption, for any other
+ * number that number itself. The window does not count, and creating a date edit brings the
+ * captions back.
  */
 VORNAPI char* WINAPI dtSetButtonText(HWND window, int which, const char* text);
 

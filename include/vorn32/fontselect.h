@@ -24,7 +24,7 @@
 #define VFSN_FONTCHANGE 1 /* the user chose a family */
 #define VFSN_SIZECHANGE 2 /* the user chose a size */
 
-/* Messages: the functions' twins, with their results. */
+/* Messages: the functions' twins, with their results; 0 for a function without a result. */
 #define VFSM_GETBACKGROUNDCOLOR (WM_USER + 0)  /* result: the RGB colour of the background */
 #define VFSM_SETFONTFAMILY (WM_USER + 1)       /* lParam: name */
 #define VFSM_SETFONTSIZE (WM_USER + 2)         /* wParam: logical height */
@@ -34,10 +34,10 @@
 #define VFSM_SETSIZECOMMANDCODE (WM_USER + 6)  /* wParam: code */
 #define VFSM_GETFONTPOINTSIZE (WM_USER + 7)    /* result: points */
 #define VFSM_SETFONTPOINTSIZE (WM_USER + 8)    /* wParam: points */
-#define VFSM_SETFIELDCOLOR (WM_USER + 9)       /* lParam: colour code */
-#define VFSM_SETBACKGROUNDCOLOR (WM_USER + 10) /* lParam: colour code */
+#define VFSM_SETFIELDCOLOR (WM_USER + 9)       /* lParam: colour code, slot 2 of fsSetColor */
+#define VFSM_SETBACKGROUNDCOLOR (WM_USER + 10) /* lParam: colour code, slot 8 */
 #define VFSM_SETITEMHEIGHT (WM_USER + 11)      /* wParam: pixels */
-#define VFSM_SETTEXTCOLOR (WM_USER + 12)       /* lParam: colour code */
+#define VFSM_SETTEXTCOLOR (WM_USER + 12)       /* lParam: colour code, slot 4 */
 
 #ifdef __cplusplus
 extern "C" {
@@ -66,8 +66,9 @@ VORNAPI LONG WINAPI fsGetFontPointSize(HWND window);
 VORNAPI LONG WINAPI fsSetFontPointSize(HWND window, LONG points);
 
 /*
- * The chosen size as the logical height for LOGFONT: minus the character height in pixels. That of
- * 10 points without a choice or without a font selector.
+ * The chosen size as the logical height for LOGFONT: minus the character height in pixels, pixels
+ * an inch times points / 72 without its fraction. That of 10 points without a choice or without a
+ * font selector.
  */
 VORNAPI LONG WINAPI fsGetFontSize(HWND window);
 

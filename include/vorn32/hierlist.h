@@ -26,6 +26,8 @@
 /* An item's handle. Where none is asked for or there is none to give: null or OLB_NOITEM. */
 /* NOLINTNEXTLINE(modernize-use-using): C has no other way */
 typedef struct OLBITEM_* HOLBITEM;
+
+/* No item, as a handle: what functions answer that found none or had no memory for one. */
 #define OLB_NOITEM ((HOLBITEM)(LONG_PTR)-1)
 
 /* As a picture index: a folder, closed or open as the item is, ahead of all others when sorted. */
@@ -38,62 +40,69 @@ typedef struct OLBITEM_* HOLBITEM;
 #define OLB_DEFAULTPICTURE (-1)
 
 /* The parts of the list that olbSetColor colours. */
-#define OLBC_LIGHTEDGE 0
-#define OLBC_DARKEDGE 1
-#define OLBC_BACKGROUND 2
-#define OLBC_TEXT 4
-#define OLBC_FACE 8
-#define OLBC_LINES 16
-#define OLBC_LOCKEDTEXT 32
-#define OLBC_SELECTEDTEXT 64
+#define OLBC_LIGHTEDGE 0     /* the light lines of a frame */
+#define OLBC_DARKEDGE 1      /* its dark lines */
+#define OLBC_BACKGROUND 2    /* behind the rows */
+#define OLBC_TEXT 4          /* text */
+#define OLBC_FACE 8          /* the face of a frame */
+#define OLBC_LINES 16        /* the tree's lines */
+#define OLBC_LOCKEDTEXT 32   /* text of locked items */
+#define OLBC_SELECTEDTEXT 64 /* text of selected items */
 
-/* The options that olbSetFlags changes. Each has a function of its own too, but for the second. */
-#define OLBO_PROPORTIONAL 0x01 /* proportional scroll bars; they always are */
-#define OLBO_AUTOOPEN 0x02     /* an item that is visible opens when it gets its first child */
-#define OLBO_LINES 0x04
+/*
+ * The options that olbSetFlags changes. Each has a function of its own too, but for
+ * OLBO_ASKBACKGROUND.
+ */
+#define OLBO_PROPORTIONAL 0x01  /* proportional scroll bars; they always are */
+#define OLBO_AUTOOPEN 0x02      /* an item that is visible opens when it gets its first child */
+#define OLBO_LINES 0x04         /* the tree's dotted lines */
 #define OLBO_ASKBACKGROUND 0x08 /* the parent gives the background brush (WM_CTLCOLORLISTBOX) */
-#define OLBO_FULLSELECT 0x10
-#define OLBO_BOXES 0x80
+#define OLBO_FULLSELECT 0x10    /* the highlight reaches to the right edge */
+#define OLBO_BOXES 0x80         /* open/close boxes in front of items */
 
-/* Records of messages that take more than fits. On 64-bit Windows all fields are 64 bits wide. */
+/*
+ * Records of messages that take more than fits. Fields are as wide as a pointer, but for a position
+ * of 16 bits.
+ */
 /* NOLINTBEGIN(modernize-use-using): C has no other way */
 typedef struct OLBROWPAIR { /* an item, and its new parent; or from, and to */
-    LONG_PTR item;
-    LONG_PTR parent;
+    LONG_PTR item;          /* row of the item, or of that whose children are meant */
+    LONG_PTR parent;        /* row of the new parent */
 } OLBROWPAIR;
-typedef struct OLBHANDLEPAIR {
-    HOLBITEM item;
-    HOLBITEM parent;
+typedef struct OLBHANDLEPAIR { /* the same as handles */
+    HOLBITEM item;             /* the item, or that whose children are meant */
+    HOLBITEM parent;           /* the new parent */
 } OLBHANDLEPAIR;
-typedef struct OLBHANDLETEXT {
-    HOLBITEM item;
-    LPCSTR text;
+typedef struct OLBHANDLETEXT { /* an item and a text */
+    HOLBITEM item;             /* the item; when adding, the parent */
+    LPCSTR text;               /* the text */
 } OLBHANDLETEXT;
-typedef struct OLBHANDLEBUFFER {
-    HOLBITEM item;
-    LPSTR buffer;
+typedef struct OLBHANDLEBUFFER { /* an item and where its text goes */
+    HOLBITEM item;               /* the item */
+    LPSTR buffer;                /* the buffer */
 } OLBHANDLEBUFFER;
-typedef struct OLBROWSEARCH {
-    LONG_PTR parent;
-    LONG_PTR start;
-    LPCSTR text;
+typedef struct OLBROWSEARCH { /* what is searched */
+    LONG_PTR parent;          /* row of the parent */
+    LONG_PTR start;           /* as olbFindString takes it */
+    LPCSTR text;              /* the text */
 } OLBROWSEARCH;
-typedef struct OLBHANDLESEARCH {
-    HOLBITEM parent;
-    LONG_PTR start;
-    LPCSTR text;
+typedef struct OLBHANDLESEARCH { /* the same as a handle */
+    HOLBITEM parent;             /* the parent */
+    LONG_PTR start;              /* as olbFindStringEx takes it */
+    LPCSTR text;                 /* the text */
 } OLBHANDLESEARCH;
 typedef struct OLBINSERTION { /* aligned as usual */
-    HOLBITEM parent;
-    WORD position;
-    LPCSTR text;
+    HOLBITEM parent;          /* the parent */
+    WORD position;            /* as olbInsertStringEx takes it */
+    LPCSTR text;              /* the text */
 } OLBINSERTION;
 /* NOLINTEND(modernize-use-using) */
 
 /*
  * Messages: the functions' twins, with their results; text results are lengths, of 16 bits. Those
- * whose function has no result result in 0. The list takes all messages of a list box beside them,
- * LB_ADDSTRING to LB_FINDSTRINGEXACT.
+ * whose function has no result result in 0. OLBM_FINDSTRINGEXACT and OLBM_FINDSTRINGEXACTEX are
+ * olbFindString and olbFindStringEx for whole texts. The list takes all messages of a list box
+ * beside them, LB_ADDSTRING to LB_FINDSTRINGEXACT.
  */
 #define OLBM_CLOSEALL (WM_USER + 40)                   /* */
 #define OLBM_ADDCHILDSTRING (WM_USER + 300)            /* wParam: row of the parent; lParam: text */
@@ -192,10 +201,10 @@ extern "C" {
 
 /*
  * Add an item as a child: behind its new siblings, or in order with LBS_SORT. The parent is a row
- * or a handle; none means the top level. An owner-drawn list without LBS_HASSTRINGS keeps the
- * pointer as a value and never reads a text there. The result is the new item's row (of an item
- * that is hidden, its position among its siblings) or its handle; -1 or OLB_NOITEM when memory ran
- * out.
+ * or a handle; none, and a row that does not exist, means the top level. An owner-drawn list
+ * without LBS_HASSTRINGS keeps the pointer as a value and never reads a text there. The result is
+ * the new item's row (of an item that is hidden, its position among its siblings) or its handle; -1
+ * or OLB_NOITEM when memory ran out.
  */
 VORNAPI LONG WINAPI olbAddString(HWND window, LPCSTR text);
 VORNAPI LONG WINAPI olbAddChildString(HWND window, LONG parent, LPCSTR text);
@@ -215,7 +224,7 @@ VORNAPI HOLBITEM WINAPI olbInsertStringEx(HWND window, HOLBITEM parent, WORD pos
  * with DDL_DRIVES, otherwise what matches the pattern, with DDL_EXCLUSIVE only what shares an
  * attribute; it results in the row of the last entry, -1 when there is none. olbDirEx adds a drive
  * (1 for A, 0 the current one) with all its folders below it, and results in its row; with
- * DDL_DRIVES it is olbDir. olbAddFile adds the one name as it is.
+ * DDL_DRIVES it is olbDir. olbAddFile adds the one name as it is and results in its row.
  */
 VORNAPI LONG WINAPI olbDir(HWND window, DWORD attributes, LPCSTR pattern);
 VORNAPI LONG WINAPI olbDirEx(HWND window, DWORD attributes, LONG drive);
@@ -235,9 +244,10 @@ VORNAPI void WINAPI olbResetContent(HWND window); /* deletes everything */
 
 /*
  * Move an item, closed, to a position under a new parent; the parent may be -1 or null for the top
- * level. The result is the item; -1 when the new parent is the item or below it. olbMoveChildren
- * moves all children of an item, in order, and results in the last one. The copying functions do
- * the same with copies of text, data, pictures, height and lock of all below too.
+ * level. The result is the item; -1 or OLB_NOITEM when the new parent is the item or below it, null
+ * for a handle of no item. olbMoveChildren and olbMoveChildrenEx move all children of an item, in
+ * order, and result in the last one, null when there are none. The copying functions do the same
+ * with copies of text, data, pictures, height and lock of all below too.
  */
 VORNAPI LONG WINAPI olbMoveItem(HWND window, LONG row, LONG newParent, WORD position);
 VORNAPI HOLBITEM WINAPI olbMoveItemEx(HWND window, HOLBITEM item, HOLBITEM newParent,
@@ -255,7 +265,8 @@ VORNAPI HOLBITEM WINAPI olbCopyChildrenEx(HWND window, HOLBITEM from, HOLBITEM t
 /*
  * Make rows of an item's children, and hide them with all below them. A locked item, one without
  * children and a row that does not exist cannot be opened; a locked one can be closed. olbOpenAll
- * opens an item and all below it, -1 every item; olbCloseAll closes every item at the top.
+ * opens an item and all below it, -1 every item, but not what is locked nor what is below that;
+ * olbCloseAll closes every item at the top.
  */
 VORNAPI void WINAPI olbOpenItem(HWND window, LONG row);
 VORNAPI void WINAPI olbCloseItem(HWND window, LONG row);
@@ -305,8 +316,8 @@ VORNAPI LONG WINAPI olbGetVisibleCount(HWND window); /* the rows */
 /*
  * Search the children of a closed item, or for -1 or null the items at the top, for a text: one
  * that begins with it, or is exactly it; upper and lower case differ. The search begins behind
- * `start`, a position or row, -1 for the first, and goes round. -1 or OLB_NOITEM when there is
- * none.
+ * `start`, a position or row, -1 for the first, and goes round. Results in the item's row (of a
+ * hidden one its position among its siblings) or its handle; -1 or OLB_NOITEM when there is none.
  */
 VORNAPI LONG WINAPI olbFindString(HWND window, LONG parent, LONG start, LPCSTR text, BOOL exact);
 VORNAPI HOLBITEM WINAPI olbFindStringEx(HWND window, HOLBITEM parent, LONG start, LPCSTR text,
@@ -326,7 +337,10 @@ VORNAPI LONG WINAPI olbGetTextLengthEx(HWND window, HOLBITEM handle);
 VORNAPI LONG WINAPI olbSetItemText(HWND window, LONG row, LPCSTR text);
 VORNAPI LONG WINAPI olbSetItemTextEx(HWND window, HOLBITEM handle, LPCSTR text);
 
-/* A value of the host's. Setting results in 0. */
+/*
+ * A value of the host's; until one is set, 0, and of an item without text the value that it was
+ * added with. Setting results in 0.
+ */
 VORNAPI LONG_PTR WINAPI olbGetItemData(HWND window, LONG row);
 VORNAPI LONG_PTR WINAPI olbGetItemDataEx(HWND window, HOLBITEM handle);
 VORNAPI LONG WINAPI olbSetItemData(HWND window, LONG row, LONG_PTR data);
@@ -371,7 +385,8 @@ VORNAPI LONG WINAPI olbSetBitmapIndexEx(HWND window, HOLBITEM handle, LONG index
 
 /*
  * The strip and the picture of a level below 20, for items without their own. The control owns the
- * strip and deletes the one before; a new strip resets the index.
+ * strip and deletes the one before; a new strip resets the index. Setting an index results in what
+ * was before, -1 for none.
  */
 VORNAPI void WINAPI olbSetLevelBitmap(HWND window, int level, HBITMAP bitmap);
 VORNAPI LONG WINAPI olbSetLevelIndex(HWND window, int level, LONG index);
@@ -408,8 +423,9 @@ VORNAPI WORD WINAPI olbSetFlags(HWND window, WORD kept, WORD added);
 VORNAPI void WINAPI olbChangeStyle(HWND window, WORD style);
 
 /*
- * Has the parent draw the rows: 1 all of one height, for which it is asked, 2 each of its own, 0
- * not at all. Results in what was before.
+ * Has the parent draw the rows: 1 all of one height, for which the list asks itself, and so its
+ * parent, by WM_MEASUREITEM with the item 65535; 2 each of its own; 0 not at all. Results in what
+ * was before.
  */
 VORNAPI LONG WINAPI olbSetOwnerDraw(HWND window, int mode);
 
@@ -469,9 +485,10 @@ VORNAPI HOLBITEM WINAPI olbGetCurSelEx(HWND window);
 
 /*
  * For lists that select several (-1 in others): select or deselect a row, all rows for -1; rows
- * from one to another, -1 being the last; and answer how many items are selected, and at most so
- * many of their rows, whose number is the result. Nothing is notified. A row that olbSetSel selects
- * becomes anchor and caret and is scrolled into view.
+ * from one to another, whichever comes first, -1 being the last; and answer how many items are
+ * selected, and at most so many of their rows, from the top down, whose number is the result.
+ * Nothing is notified. A row that olbSetSel selects becomes anchor and caret and is scrolled into
+ * view.
  */
 VORNAPI LONG WINAPI olbSetSel(HWND window, LONG row, BOOL select);
 VORNAPI LONG WINAPI olbSelItemRange(HWND window, LONG first, LONG last, BOOL select);
@@ -486,7 +503,10 @@ VORNAPI LONG WINAPI olbGetSel(HWND window, LONG row); /* 1, 0, or -1 for no row;
  */
 VORNAPI LONG WINAPI olbSelectString(HWND window, LONG start, LPCSTR text);
 
-/* Where a range with Shift starts, and the row of the keyboard. Setting results in 0. */
+/*
+ * Where a range with Shift starts, and the row of the keyboard, which setting scrolls into view.
+ * Setting results in 0.
+ */
 VORNAPI LONG WINAPI olbSetAnchorIndex(HWND window, LONG row); /* -1: none */
 VORNAPI LONG WINAPI olbGetAnchorIndex(HWND window);
 VORNAPI LONG WINAPI olbSetCaretIndex(HWND window, LONG row);
@@ -494,7 +514,10 @@ VORNAPI LONG WINAPI olbGetCaretIndex(HWND window);
 
 /* ---- View ---- */
 
-/* The first and the last row in view. Setting results in 0. */
+/*
+ * The first and the last row in view. Setting scrolls a row to the top as far as the last page
+ * allows, and results in 0.
+ */
 VORNAPI LONG WINAPI olbSetTopIndex(HWND window, LONG row);
 VORNAPI LONG WINAPI olbGetTopIndex(HWND window);
 VORNAPI LONG WINAPI olbGetBottomIndex(HWND window);

@@ -29,38 +29,38 @@
 #include <vorn32/library.h>
 
 /* Window styles. The functions keep them in step. Of several borders the highest bit wins. */
-#define VNMS_CENTER 0x0001 /* alignment without the focus; with VNMS_RIGHT left */
-#define VNMS_RIGHT 0x0002
+#define VNMS_CENTER 0x0001   /* centred without the focus; with VNMS_RIGHT left */
+#define VNMS_RIGHT 0x0002    /* at the right without the focus */
 #define VNMS_SPIN 0x0004     /* the spin buttons */
 #define VNMS_NUMBER 0x0008   /* written in the font, as without a display style */
 #define VNMS_DIGITS 0x0010   /* an integer, drawn as on a display of digits */
 #define VNMS_CELLS 0x0020    /* each character in a box; wins over VNMS_DIGITS */
 #define VNMS_READONLY 0x0800 /* keys and spin buttons beep */
-#define VNMS_SUNKEN 0x1000
-#define VNMS_RAISED 0x2000
-#define VNMS_LINE 0x4000
+#define VNMS_SUNKEN 0x1000   /* sunken border */
+#define VNMS_RAISED 0x2000   /* raised border */
+#define VNMS_LINE 0x4000     /* a line around it */
 
 /* Format kinds: how the number is displayed without the focus. */
-#define NM_GENERAL 0                     /* 12 digits, decimals; an exponent as it comes */
-#define NM_INTEGER 1                     /* -1234 */
-#define NM_INTEGER_GROUPED 2             /* -1,234 */
-#define NM_INTEGER_PARENTHESES 3         /* (1234) */
-#define NM_INTEGER_GROUPED_PARENTHESES 4 /* (1,234) */
-#define NM_FLOATING 5                    /* -1234.50, decimals in front of an exponent too */
-#define NM_FLOATING_GROUPED 6
-#define NM_FLOATING_PARENTHESES 7
-#define NM_FLOATING_GROUPED_PARENTHESES 8
+#define NM_GENERAL 0                      /* 12 digits, decimals; an exponent as it comes */
+#define NM_INTEGER 1                      /* -1234 */
+#define NM_INTEGER_GROUPED 2              /* -1,234 */
+#define NM_INTEGER_PARENTHESES 3          /* (1234) */
+#define NM_INTEGER_GROUPED_PARENTHESES 4  /* (1,234) */
+#define NM_FLOATING 5                     /* -1234.50, decimals in front of an exponent too */
+#define NM_FLOATING_GROUPED 6             /* -1,234.50 */
+#define NM_FLOATING_PARENTHESES 7         /* (1234.50) */
+#define NM_FLOATING_GROUPED_PARENTHESES 8 /* (1,234.50) */
 #define NM_FLOATING_UNPADDED 9 /* NM_FLOATING, but functions store no decimals that are 0 */
 
 /* What nmSetDisplayStyle takes. */
-#define VNMD_TEXT 0
-#define VNMD_DIGITS 1
-#define VNMD_CELLS 2
+#define VNMD_TEXT 0   /* written in the font */
+#define VNMD_DIGITS 1 /* as VNMS_DIGITS */
+#define VNMD_CELLS 2  /* as VNMS_CELLS */
 
 /* What nmSetAlignment takes. */
-#define VNMA_LEFT 0
-#define VNMA_CENTER 1
-#define VNMA_RIGHT 2
+#define VNMA_LEFT 0   /* at the left */
+#define VNMA_CENTER 1 /* centred */
+#define VNMA_RIGHT 2  /* at the right */
 
 /* In NmEditParams: the user's number of decimal digits. */
 #define NM_USER_DECIMAL_DIGITS 0xFFFFFFFF
@@ -69,16 +69,16 @@
 #include <pshpack4.h>
 /* NOLINTNEXTLINE(modernize-use-using): C has no other way */
 typedef struct NmEditParams {
-    DWORD formatKind;
+    DWORD formatKind;    /* one of the format kinds, NM_GENERAL to NM_FLOATING_UNPADDED */
     DWORD rangeCheck;    /* non-zero: numbers are kept and read within the range */
-    DWORD decimalDigits; /* 16 bits count; or NM_USER_DECIMAL_DIGITS */
+    DWORD decimalDigits; /* 16 bits count; NM_USER_DECIMAL_DIGITS: "iDigits", or 2 without it */
     DWORD reserved;      /* neither read nor written */
-    double minValue;     /* above the maximum, it is the only number */
-    double maxValue;
-    DWORD useRegional; /* non-zero: the rest is the user's, and follows WM_WININICHANGE */
-    WORD thousandChar; /* 0: the user's */
-    WORD decimalChar;  /* 0: the user's */
-    DWORD leadingZero; /* non-zero: 0.50, otherwise .50 */
+    double minValue;     /* the least number; above the maximum, it is the only one */
+    double maxValue;     /* the greatest number */
+    DWORD useRegional;   /* non-zero: the rest is the user's, and follows WM_WININICHANGE */
+    WORD thousandChar;   /* 0: the user's, "sThousand" */
+    WORD decimalChar;    /* 0: the user's, "sDecimal" */
+    DWORD leadingZero;   /* non-zero: 0.50, otherwise .50 */
 } NmEditParams;
 #include <poppack.h>
 
@@ -108,7 +108,7 @@ typedef struct NmEditParams {
 #define VNMM_GETMINWIDTH (WM_USER + 156)        /* */
 #define VNMM_SETBACKGROUNDCOLOR (WM_USER + 157) /* lParam: colour code, slot 2 */
 #define VNMM_SETTEXTCOLOR (WM_USER + 158)       /* lParam: colour code, slot 4 */
-#define VNMM_OKTOCHANGE (WM_USER + 159)         /* */
+#define VNMM_OKTOCHANGE (WM_USER + 159)         /* sent to itself; result: 0 to refuse, else 1 */
 #define VNMM_SETUNSIGNEDINTEGER (WM_USER + 160) /* wParam: number */
 #define VNMM_SETUNSIGNEDLONG (WM_USER + 161)    /* wParam: number */
 #define VNMM_GETUNSIGNEDINTEGER (WM_USER + 162) /* */
@@ -128,7 +128,10 @@ typedef struct NmEditParams {
 #define VNMM_QUERY 0x0D05
 #define VNMM_GETVALUESIZE 0x0D07 /* lParam: DWORD, or null */
 
-/* Notification: a number's text reached the text limit and was cut to one character less. */
+/*
+ * Notification: the text of a number that a spin button or a function made reached the text limit
+ * and was cut to one character less.
+ */
 #define VNMN_TEXTCUT 0x0500
 
 #ifdef __cplusplus
@@ -147,10 +150,13 @@ VORNAPI LRESULT WINAPI nmSetEditParams(HWND window, const NmEditParams* params);
 /* Shows (non-zero) or hides the spin buttons. Redraws. */
 VORNAPI BOOL WINAPI nmEnableSpinButtons(HWND window, BOOL enable);
 
-/* Aligns the number; any value but 1 and 2 is left. Redraws. */
+/* Aligns the number, as one of VNMA_; any other value means VNMA_LEFT. Redraws. */
 VORNAPI BOOL WINAPI nmSetAlignment(HWND window, int alignment);
 
-/* Sets the display style; any other number takes the style bits away and stays without effect. */
+/*
+ * Sets the display style, one of the VNMD_ styles; any other number takes the style bits away and
+ * stays without effect. Redraws.
+ */
 VORNAPI BOOL WINAPI nmSetDisplayStyle(HWND window, int style);
 
 /*
@@ -176,7 +182,10 @@ VORNAPI BOOL WINAPI nmIsNull(HWND window);
 /* The control's own answer to VNMM_OKTOCHANGE: 1, for any window. */
 VORNAPI BOOL WINAPI nmOkToChange(HWND window);
 
-/* The least size that the control needs with its font, border included. */
+/*
+ * The least size that the control needs: the height of its font; the width of a character and the
+ * spin buttons; and the border.
+ */
 VORNAPI int WINAPI nmGetMinHeight(HWND window);
 VORNAPI int WINAPI nmGetMinWidth(HWND window);
 
@@ -199,7 +208,8 @@ VORNAPI void WINAPI nmGetLongDouble(HWND window, double* number);
 
 /*
  * Copies the same number, formatted but without grouping and parentheses, into a buffer of at least
- * 64 characters; " " of an empty control. Non-zero.
+ * 64 characters; " " of an empty control. Non-zero; 0, and the buffer untouched, when there is no
+ * numeric edit.
  */
 VORNAPI BOOL WINAPI nmGetLastGoodNumber(HWND window, char* buffer);
 

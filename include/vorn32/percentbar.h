@@ -23,20 +23,20 @@
  * Window styles, read once at creation; of several borders the lowest bit wins. The functions
  * below keep the style bits in step.
  */
-#define VPBS_SUNKEN 0x01
-#define VPBS_RAISED 0x02
-#define VPBS_LINE 0x04
-#define VPBS_TICKMARKS 0x08
-#define VPBS_SCALETEXT 0x10
-#define VPBS_PERCENT 0x20
+#define VPBS_SUNKEN 0x01    /* sunken frame */
+#define VPBS_RAISED 0x02    /* raised frame */
+#define VPBS_LINE 0x04      /* one-pixel line */
+#define VPBS_TICKMARKS 0x08 /* tick marks at every twentieth of the bar, longer at the tenths */
+#define VPBS_SCALETEXT 0x10 /* the scale from 0 to 100 under the bar */
+#define VPBS_PERCENT 0x20   /* the percentage */
 
 /* Messages: the functions' twins. All but the last two result in 0. */
 #define VPBM_SETLIMIT (WM_USER + 0)           /* lParam: limit */
 #define VPBM_SETPROGRESS (WM_USER + 1)        /* lParam: progress */
-#define VPBM_SETBARCOLOR (WM_USER + 2)        /* lParam: colour code */
-#define VPBM_SETBACKGROUNDCOLOR (WM_USER + 3) /* lParam: colour code */
-#define VPBM_SETFILLCOLOR (WM_USER + 4)       /* lParam: colour code */
-#define VPBM_SETTEXTCOLOR (WM_USER + 5)       /* lParam: colour code */
+#define VPBM_SETBARCOLOR (WM_USER + 2)        /* lParam: colour code, slot 2 of pbSetColor */
+#define VPBM_SETBACKGROUNDCOLOR (WM_USER + 3) /* lParam: colour code, slot 8 */
+#define VPBM_SETFILLCOLOR (WM_USER + 4)       /* lParam: colour code, slot 16 */
+#define VPBM_SETTEXTCOLOR (WM_USER + 5)       /* lParam: colour code, slot 4 */
 #define VPBM_SETPERCENTFONT (WM_USER + 6)     /* wParam: font, or null */
 #define VPBM_GETPROGRESS (WM_USER + 7)        /* result: progress */
 #define VPBM_GETLIMIT (WM_USER + 8)           /* result: limit */
@@ -67,12 +67,15 @@ VORNAPI LONG WINAPI pbGetProgress(HWND window);
  * Sets a colour: VORN_COLOR_HIGHLIGHT and VORN_COLOR_SHADOW of the frames, VORN_COLOR_FACE the
  * empty part of the bar (and the percentage over the filled part), VORN_COLOR_TEXT the scale,
  * VORN_COLOR_BACKGROUND the control outside the bar (these two when the parent leaves them, see
- * above), VORN_COLOR_FILL the filled part (and the
- * percentage over the empty part). Any other slot changes nothing. Redraws the control.
+ * above), VORN_COLOR_FILL the filled part (and the percentage over the empty part). Any other slot
+ * changes nothing. Redraws the control.
  */
 VORNAPI BOOL WINAPI pbSetColor(HWND window, int slot, COLORREF colorCode);
 
-/* Sets the border style; any number but 1, 2 and 3 means none. Redraws the control. */
+/*
+ * Sets the border, one of the VORN_BORDER_ styles; any other number draws no frame and takes no
+ * room. Redraws the control.
+ */
 VORNAPI BOOL WINAPI pbSetBorderStyle(HWND window, DWORD borderStyle);
 
 /* Shows (non-zero) or hides the scale from 0 to 100 under the bar. Redraws the control. */

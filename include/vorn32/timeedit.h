@@ -27,42 +27,42 @@
  * VTMS_LINE. tmSetBorderStyle keeps a raised border as 0x2000 and a sunken one as 0x1000: the other
  * way round.
  */
-#define VTMS_DIGITS 0x0010  /* drawn with pictures of digits */
-#define VTMS_CELLS 0x0020   /* every character in a box of its own; wins over VTMS_DIGITS */
-#define VTMS_SECONDS 0x0040 /* with seconds */
-#define VTMS_READONLY 0x0800
-#define VTMS_RAISED 0x1000
-#define VTMS_SUNKEN 0x2000
-#define VTMS_LINE 0x4000
+#define VTMS_DIGITS 0x0010   /* characters drawn as on a display of digits */
+#define VTMS_CELLS 0x0020    /* every character in a box of its own; wins over VTMS_DIGITS */
+#define VTMS_SECONDS 0x0040  /* with seconds */
+#define VTMS_READONLY 0x0800 /* keys beep, and presses do nothing */
+#define VTMS_RAISED 0x1000   /* raised border */
+#define VTMS_SUNKEN 0x2000   /* sunken border */
+#define VTMS_LINE 0x4000     /* a line around it */
 
 /* Display styles, as tmSetDisplayStyle takes them. */
-#define VTMD_TEXT 0
-#define VTMD_DIGITS 1
-#define VTMD_CELLS 2
+#define VTMD_TEXT 0   /* written in the font */
+#define VTMD_DIGITS 1 /* as VTMS_DIGITS */
+#define VTMD_CELLS 2  /* as VTMS_CELLS */
 
-/* A time of day: hours from 0 to 23. */
+/* A time of day. */
 /* NOLINTNEXTLINE(modernize-use-using): C has no other way */
 typedef struct TmTime {
-    WORD hour;
-    WORD minute;
-    WORD second;
+    WORD hour;   /* 0 to 23 */
+    WORD minute; /* 0 to 59 */
+    WORD second; /* 0 to 59 */
 } TmTime;
 
 /* Time and format of a time edit, 50 bytes. */
 #include <pshpack1.h>
 /* NOLINTNEXTLINE(modernize-use-using): C has no other way */
 typedef struct TmEditParams {
-    DWORD setTime; /* got: 1; set: the time is taken when it is not 0 */
-    TmTime time;
-    WORD reserved1;
-    DWORD keepFormat; /* got: left as it is; set: what follows is taken when it is 0 */
-    WORD separator;   /* a character; set: 0 keeps the one there is */
-    WORD reserved2;
+    DWORD setTime;        /* got: 1; set: the time is taken when it is not 0 */
+    TmTime time;          /* unchecked */
+    WORD reserved1;       /* not used */
+    DWORD keepFormat;     /* got: left as it is; set: what follows is taken when it is 0 */
+    WORD separator;       /* a character in the low byte; set: 0 keeps the one there is */
+    WORD reserved2;       /* not used */
     DWORD leadingZero;    /* not 0: hours below 10 have two digits */
     DWORD twentyFourHour; /* not 0: the 24-hour form, without AM and PM text */
-    DWORD showSeconds;
-    char amText[9];
-    char pmText[9];
+    DWORD showSeconds;    /* not 0: with seconds */
+    char amText[9];       /* up to eight characters */
+    char pmText[9];       /* the same */
 } TmEditParams;
 #include <poppack.h>
 
@@ -81,14 +81,17 @@ typedef struct TmEditParams {
 #define VTMM_SETTIMESTRING (WM_USER + 154)      /* lParam: text, or null */
 #define VTMM_GETMINHEIGHT (WM_USER + 155)       /* */
 #define VTMM_GETMINWIDTH (WM_USER + 156)        /* */
-#define VTMM_SETBACKGROUNDCOLOR (WM_USER + 157) /* lParam: colour code */
-#define VTMM_SETTEXTCOLOR (WM_USER + 158)       /* lParam: colour code */
+#define VTMM_SETBACKGROUNDCOLOR (WM_USER + 157) /* lParam: colour code, slot 2 of tmSetColor */
+#define VTMM_SETTEXTCOLOR (WM_USER + 158)       /* lParam: colour code, slot 4 */
 #define VTMM_STARTCLOCK (WM_USER + 160)         /* */
 #define VTMM_STOPCLOCK (WM_USER + 161)          /* */
 
-/* Sent to itself. */
-#define VTMM_OKTOCHANGE (WM_USER + 159) /* before a change; result: 1, or 0 to refuse it */
-#define VTMM_CHANGED (WM_USER + 400)    /* after a change; without a meaning of its own */
+/*
+ * Sent by the control to itself: before a change, with 0 as the answer that refuses it, and after
+ * one. VTMM_CHANGED is posted after keys and by tmSetEditParams.
+ */
+#define VTMM_OKTOCHANGE (WM_USER + 159) /* result: 1, or 0 to refuse the change */
+#define VTMM_CHANGED (WM_USER + 400)    /* after a change of the time */
 
 /*
  * The time from and to the broken-down time of C libraries: nine 32-bit integers that begin with
@@ -122,7 +125,7 @@ VORNAPI BOOL WINAPI tmSetEditParams(HWND window, const TmEditParams* params);
 /* Copies the time; of a null control the numbers that it held before. Returns 1. */
 VORNAPI BOOL WINAPI tmGetTime(HWND window, TmTime* time);
 
-/* The time's numbers. */
+/* The time's numbers, the hour from 0 to 23. */
 VORNAPI UINT WINAPI tmGetHour(HWND window);
 VORNAPI UINT WINAPI tmGetMinute(HWND window);
 VORNAPI UINT WINAPI tmGetSecond(HWND window);
@@ -154,7 +157,10 @@ VORNAPI LPSTR WINAPI tmGetTimeString(HWND window, LPSTR buffer);
  */
 VORNAPI BOOL WINAPI tmSetTimeString(HWND window, LPCSTR text);
 
-/* How high and wide the window should be at least, in pixels. */
+/*
+ * The least size that the control needs, in pixels: the height of its font; the width of three of
+ * the font's widest characters; and the border.
+ */
 VORNAPI int WINAPI tmGetMinHeight(HWND window);
 VORNAPI int WINAPI tmGetMinWidth(HWND window);
 

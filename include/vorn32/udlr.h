@@ -14,9 +14,9 @@
 #include <vorn32/library.h>
 
 /* Notification codes: the directions, each sent as often as it is stepped. */
-#define VUDN_UP 100
-#define VUDN_RIGHT 101
-#define VUDN_DOWN 102
-#define VUDN_LEFT 103
+#define VUDN_UP 100    /* the upper button */
+#define VUDN_RIGHT 101 /* the right button */
+#define VUDN_DOWN 102  /* the lower button */
+#define VUDN_LEFT 103  /* the left button */
 
 #endif

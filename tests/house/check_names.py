@@ -1,10 +1,9 @@
-"""What the public headers declare, what the DLL exports and what the pages document is the same."""
+"""What the public headers declare is what the DLL exports."""
 import re
 
 from tree import ROOT, finish, tracked
 
 DECLARED = re.compile(r"VORNAPI\s+[\w\s\*]*?\b(\w+)\(")
-DOCUMENTED = re.compile(r"^\| `(?:[\w\s\*]*?\b)?(\w+)\(", re.MULTILINE)
 
 
 def text(path):
@@ -21,19 +20,9 @@ def exported():
     return {line.split()[0] for line in lines if line and not line.startswith("#")}
 
 
-def documented():
-    pages = [path for path in tracked(".md") if path.parts[0] == "docs"]
-    names = [name for path in pages for name in DOCUMENTED.findall(text(path))]
-    twice = sorted({name for name in names if names.count(name) > 1})
-    return set(names), twice
-
-
 def missing(what, names, others):
     return [f"{name}: {what}" for name in sorted(others - names)]
 
 
-pages, twice = documented()
-finish(missing("not declared in include/", declared(), exported() | pages)
-       + missing("not exported in core/exports.txt", exported(), declared() | pages)
-       + missing("not in a function table of docs/", pages, declared() | exported())
-       + [f"{name}: documented twice" for name in twice])
+finish(missing("not declared in include/", declared(), exported())
+       + missing("not exported in core/exports.txt", exported(), declared()))

@@ -17,6 +17,11 @@ package_packages=(llvm)
 package_reason="to make the import library for MSVC"
 hosts_packages=(lld golang-go gnat-mingw-w64-i686-posix gnat-mingw-w64-x86-64-posix)
 hosts_reason="to build hosts as other compilers and languages do"
+# Debian's Python finds these, so what needs them is run by /usr/bin/python3.
+site_packages=(python3 python3-markdown python3-pygments python3-jinja2 git)
+site_reason="to make the site of the documentation"
+browser_packages=(chromium chromium-driver python3-selenium)
+browser_reason="to look at the site as its readers do"
 test_packages=(clang clang-format clang-tidy libclang-rt-dev googletest shellcheck git binutils)
 test_reason="to test and to check the source"
 coverage_packages=(gcovr)
