@@ -14,18 +14,11 @@ constexpr int kWarmUp = 50;
 constexpr int kCyclesAnObject = 10;
 constexpr std::size_t kProbes = 2000;
 
-struct Places {
-    int gdi;
-    int user;
-};
-
 // The index part of a handle.
 int IndexOf(const void* handle) {
     return LOWORD(reinterpret_cast<UINT_PTR>(handle));
 }
 
-// The highest place that many new objects at once get: they fill the gaps that freed ones left,
-// and each that stayed behind moves the last of them one up.
 int HighestGdiPlace() {
     std::array<HBRUSH, kProbes> brushes{};
     int highest = 0;
@@ -39,25 +32,25 @@ int HighestGdiPlace() {
     return highest;
 }
 
-Places FindPlaces() {
-    HWND window =
-        CreateWindowExA(0, "STATIC", "", WS_POPUP, 0, 0, 1, 1, nullptr, nullptr, nullptr, nullptr);
-    const Places places = {HighestGdiPlace(), IndexOf(window)};
-    DestroyWindow(window);
-    return places;
-}
-
 DWORD Counted(DWORD kind) {
     return GetGuiResources(GetCurrentProcess(), kind);
 }
 
 } // namespace
 
+ObjectPlaces FindObjectPlaces() {
+    HWND window =
+        CreateWindowExA(0, "STATIC", "", WS_POPUP, 0, 0, 1, 1, nullptr, nullptr, nullptr, nullptr);
+    const ObjectPlaces places = {HighestGdiPlace(), IndexOf(window)};
+    DestroyWindow(window);
+    return places;
+}
+
 std::string ObjectsLeftBy(const std::function<void()>& cycle, int cycles) {
     for (int i = 0; i < kWarmUp; ++i) {
         cycle();
     }
-    const Places before = FindPlaces();
+    const ObjectPlaces before = FindObjectPlaces();
     const DWORD gdi = Counted(GR_GDIOBJECTS);
     const DWORD user = Counted(GR_USEROBJECTS);
     for (int i = 0; i < cycles; ++i) {
@@ -66,7 +59,7 @@ std::string ObjectsLeftBy(const std::function<void()>& cycle, int cycles) {
     if (Counted(GR_GDIOBJECTS) != gdi || Counted(GR_USEROBJECTS) != user) {
         return "the system counts more or fewer objects than before";
     }
-    const Places after = FindPlaces();
+    const ObjectPlaces after = FindObjectPlaces();
     if (std::abs(after.gdi - before.gdi) > cycles / kCyclesAnObject) {
         return "GDI objects stayed: " + std::to_string(after.gdi - before.gdi) + " places";
     }

@@ -1,0 +1,150 @@
+// Does to a control of each class, at random and for minutes, what hosts and users do to it, and
+// watches what the process has meanwhile: soak.exe [MINUTES [SEED]]. Fails when that grows.
+#include "tests/windows/abuse/subjects.h"
+#include "tests/windows/support/crash.h"
+#include "tests/windows/support/objects.h"
+
+#include <algorithm>
+#include <cstdio>
+#include <cstdlib>
+#include <random>
+#include <vector>
+#include <vorn32.h>
+
+namespace vorn::test {
+namespace {
+
+constexpr int kRows = 20;        // of the table
+constexpr int kRebornOneIn = 40; // steps after which a control is made anew in another style
+
+// What may come and go. Heaps hold some memory ready, more after a busy time than after a quiet
+// one.
+constexpr double kMoreKib = 512;
+constexpr int kMoreObjects = 3;
+
+// What the process has.
+struct Having {
+    double kib; // of private memory
+    int gdi;
+    int user;
+    int handles;
+};
+
+double PrivateKib() {
+    SIZE_T bytes = 0;
+    MEMORY_BASIC_INFORMATION region{};
+    for (const char* at = nullptr; VirtualQuery(at, &region, sizeof region) != 0;
+         at = static_cast<const char*>(region.BaseAddress) + region.RegionSize) {
+        if (region.State == MEM_COMMIT && region.Type == MEM_PRIVATE) {
+            bytes += region.RegionSize;
+        }
+    }
+    return static_cast<double>(bytes) / 1024;
+}
+
+Having Measure() {
+    const ObjectPlaces places = FindObjectPlaces();
+    DWORD handles = 0;
+    GetProcessHandleCount(GetCurrentProcess(), &handles);
+    return {PrivateKib(), places.gdi, places.user, static_cast<int>(handles)};
+}
+
+void Pump() {
+    MSG message;
+    while (PeekMessageA(&message, nullptr, 0, 0, PM_REMOVE)) {
+        TranslateMessage(&message);
+        DispatchMessageA(&message);
+    }
+}
+
+// A control of a class in a window of its own.
+class Player {
+public:
+    explicit Player(const Subject& subject)
+        : subject_(subject), stage_(subject), operations_(OperationsOf(subject)) {}
+
+    void Step(std::mt19937& random) {
+        if (!IsWindow(stage_.control()) || random() % kRebornOneIn == 0) {
+            stage_.Create(subject_.styles[random() % subject_.styles.size()]);
+        } else {
+            const Operation& operation = operations_[random() % operations_.size()];
+            NoteDeed(operation.name + " of a " + subject_.className);
+            operation.run(stage_.control());
+        }
+        Pump();
+        stage_.host().TakeNotifications();
+    }
+
+    void End() { stage_.Clear(); }
+
+private:
+    const Subject& subject_;
+    Stage stage_;
+    std::vector<Operation> operations_;
+};
+
+// The mean of a quarter of the rows, from this one on.
+Having MeanFrom(const std::vector<Having>& rows, std::size_t first) {
+    constexpr std::size_t kQuarter = kRows / 4;
+    Having sum{};
+    for (std::size_t i = first; i < first + kQuarter; ++i) {
+        sum.kib += rows[i].kib / kQuarter;
+        sum.gdi += rows[i].gdi;
+        sum.user += rows[i].user;
+        sum.handles += rows[i].handles;
+    }
+    return {sum.kib, sum.gdi / int{kQuarter}, sum.user / int{kQuarter},
+            sum.handles / int{kQuarter}};
+}
+
+// Whether the last quarter has what the second had; the first is for what is made once.
+bool IsFlat(const std::vector<Having>& rows) {
+    const Having before = MeanFrom(rows, kRows / 4);
+    const Having after = MeanFrom(rows, kRows / 4 * 3);
+    return after.kib - before.kib <= kMoreKib && after.gdi - before.gdi <= kMoreObjects &&
+           after.user - before.user <= kMoreObjects &&
+           after.handles - before.handles <= kMoreObjects;
+}
+
+bool Soak(double minutes, unsigned seed) {
+    std::vector<std::unique_ptr<Player>> players;
+    for (const Subject& subject : Subjects()) {
+        players.push_back(std::make_unique<Player>(subject));
+    }
+    std::mt19937 random(seed);
+    std::vector<Having> rows;
+    const double rowTime = minutes * 60'000 / kRows;
+    const ULONGLONG start = GetTickCount64();
+    long long steps = 0;
+    std::printf("%8s %12s %14s %6s %6s %8s\n", "minutes", "operations", "memory, KiB", "GDI",
+                "USER", "handles");
+    for (int row = 1; row <= kRows; ++row) {
+        while (static_cast<double>(GetTickCount64() - start) < row * rowTime) {
+            players[random() % players.size()]->Step(random);
+            ++steps;
+        }
+        // The same windows are there each time.
+        for (const auto& player : players) {
+            player->End();
+        }
+        Pump();
+        rows.push_back(Measure());
+        const Having& having = rows.back();
+        std::printf("%8.1f %12lld %14.0f %6d %6d %8d\n", row * rowTime / 60'000, steps, having.kib,
+                    having.gdi, having.user, having.handles);
+        std::fflush(stdout);
+    }
+    return IsFlat(rows);
+}
+
+} // namespace
+} // namespace vorn::test
+
+int main(int argc, char** argv) {
+    const double minutes = argc > 1 ? std::atof(argv[1]) : 10;
+    const unsigned seed = argc > 2 ? static_cast<unsigned>(std::atoi(argv[2])) : GetTickCount();
+    std::printf("seed %u\n", seed);
+    const bool flat = vorn::test::Soak(minutes, seed);
+    std::printf(flat ? "[  PASSED  ] 1 test: flat\n" : "[  FAILED  ] it grows\n");
+    return flat ? 0 : 1;
+}
