@@ -46,21 +46,6 @@ LRESULT AnswerAsParent(const Message& message, LRESULT answer) {
     return answer;
 }
 
-BOOL CALLBACK Collect(HWND window, LPARAM parts) {
-    reinterpret_cast<std::vector<HWND>*>(parts)->push_back(window);
-    return TRUE;
-}
-
-// The control, and the system's windows that it is made of. A combo box is the system's own, which
-// is not to be confused.
-std::vector<HWND> PartsOf(HWND control, const Subject& subject) {
-    std::vector<HWND> parts = {control};
-    if (subject.className != std::string(VORN_COMBOBOX_CLASS)) {
-        EnumChildWindows(control, Collect, reinterpret_cast<LPARAM>(&parts));
-    }
-    return parts;
-}
-
 class SenselessAnswers : public testing::Test {
 protected:
     WatchedImports watched;
@@ -73,7 +58,7 @@ protected:
             NoteDeed(operation.name + " of a " + subject.className);
             HWND control = stage.Create(style);
             std::vector<std::unique_ptr<Spy>> spies;
-            for (HWND part : PartsOf(control, subject)) {
+            for (HWND part : PartsOf(subject, control)) {
                 spies.push_back(std::make_unique<Spy>(part));
                 spies.back()->answer = [=](const Message& message) {
                     return IsControls(message.message) ? std::optional<LRESULT>(answer)

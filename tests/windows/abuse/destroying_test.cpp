@@ -15,21 +15,37 @@ namespace {
 
 constexpr int kMostCalls = 3000;
 
-// What is destroyed.
+// What is destroyed, and in whose calls: those that the control and its parent get, or those of the
+// parts that the control is made of too.
 struct Target {
     const char* name;
-    HWND (*find)(HWND control);
+    HWND (*find)(HWND control, HWND called);
+    bool inParts;
 };
 
 constexpr Target kTargets[] = {
-    {"the control", [](HWND control) { return control; }},
-    {"its parent", [](HWND control) { return GetParent(control); }},
-    {"the focus", [](HWND) { return GetFocus(); }},
+    {"the control", [](HWND control, HWND) { return control; }, false},
+    {"its parent", [](HWND control, HWND) { return GetParent(control); }, false},
+    {"the focus", [](HWND, HWND) { return GetFocus(); }, false},
+    {"the control, in calls of its parts", [](HWND control, HWND) { return control; }, true},
+    {"the part that is called", [](HWND, HWND called) { return called; }, true},
 };
+
+// All in the first style, which tells the most, and in the others the control itself.
+bool Concerns(const Target& target, const Subject& subject, DWORD style) {
+    const bool hasParts = subject.className == std::string(VORN_FONTSELECT_CLASS);
+    return style == subject.styles[0] ? hasParts || !target.inParts : &target == &kTargets[0];
+}
 
 // An end that has begun is not begun anew.
 bool IsCall(UINT message) {
     return message != WM_DESTROY && message != WM_NCDESTROY;
+}
+
+// The system's own list does not bear to end while it asks about its items.
+bool IsListsQuestion(UINT message) {
+    return message == WM_DELETEITEM || message == WM_MEASUREITEM || message == WM_DRAWITEM ||
+           message == WM_COMPAREITEM;
 }
 
 class Destroying : public testing::Test {
@@ -38,27 +54,37 @@ protected:
 
     // Runs an operation and destroys a window inside the call of this number. Whether it came so
     // far.
-    static bool RunTo(Stage& stage, DWORD style, const Operation& operation, const Target& target,
-                      int number) {
+    static bool RunTo(Stage& stage, const Subject& subject, DWORD style, const Operation& operation,
+                      const Target& target, int number) {
         HWND control = stage.Create(style);
         EXPECT_NE(control, nullptr);
         int calls = 0;
         bool armed = true;
-        const auto count = [&](const Message& message) {
+        const auto count = [&](HWND called, const Message& message) {
             if (armed && IsCall(message.message) && calls++ == number) {
                 armed = false;
-                DestroyWindow(target.find(control));
+                DestroyWindow(target.find(control, called));
             }
         };
-        Spy spy(control);
-        spy.before = count;
+        std::vector<std::unique_ptr<Spy>> spies;
+        const std::vector<HWND> watchedParts =
+            target.inParts ? PartsOf(subject, control) : std::vector<HWND>{control};
+        for (HWND part : watchedParts) {
+            spies.push_back(std::make_unique<Spy>(part));
+            spies.back()->before = [&count, part, control](const Message& message) {
+                if (part == control || !IsListsQuestion(message.message)) {
+                    count(part, message);
+                }
+            };
+        }
         stage.host().answer = [&](const Message& message) -> std::optional<LRESULT> {
-            count(message);
+            count(stage.host().window(), message);
             return std::nullopt;
         };
         operation.run(control);
         const bool reached = !armed;
         armed = false;
+        spies.clear();
         stage.Clear();
         return reached;
     }
@@ -75,7 +101,7 @@ protected:
             const auto count = [&](const Message& message) {
                 if (!reached && IsCall(message.message) && calls++ == number) {
                     reached = true;
-                    DestroyWindow(target.find(watch.window()));
+                    DestroyWindow(target.find(watch.window(), watch.window()));
                 }
             };
             watch.before = count;
@@ -104,14 +130,13 @@ protected:
         return number;
     }
 
-    // All targets in the first style, which tells the most; the control itself in all.
     static void RunAll(const char* className) {
         const Subject& subject = SubjectOf(className);
         Stage stage(subject);
         int all = 0;
         for (const DWORD style : subject.styles) {
             for (const Target& target : kTargets) {
-                if (style != subject.styles[0] && &target != &kTargets[0]) {
+                if (!Concerns(target, subject, style)) {
                     continue;
                 }
                 const std::string deed = std::string("style ") + std::to_string(style) + " of a " +
@@ -123,8 +148,9 @@ protected:
                 for (const Operation& operation : OperationsOf(subject)) {
                     SCOPED_TRACE(operation.name);
                     NoteDeed(operation.name + ", " + deed);
-                    all += RunThrough(
-                        [&](int number) { return RunTo(stage, style, operation, target, number); });
+                    all += RunThrough([&](int number) {
+                        return RunTo(stage, subject, style, operation, target, number);
+                    });
                 }
             }
         }

@@ -45,6 +45,11 @@ std::vector<Told> EditTells(const std::vector<int>& codes, UINT message = VDTM_C
                 {{VDTM_OKTOCHANGE, -1}, {VDTM_CHANGED, -1}, {message, -1}});
 }
 
+BOOL CALLBACK Collect(HWND window, LPARAM parts) {
+    reinterpret_cast<std::vector<HWND>*>(parts)->push_back(window);
+    return TRUE;
+}
+
 void Nothing(HWND) {}
 
 void Press(HWND window, POINT point) {
@@ -263,6 +268,14 @@ std::vector<Operation> OperationsOf(const Subject& subject) {
     const std::vector<Operation> ends = Ends(subject.press);
     operations.insert(operations.end(), ends.begin(), ends.end());
     return operations;
+}
+
+std::vector<HWND> PartsOf(const Subject& subject, HWND control) {
+    std::vector<HWND> parts = {control};
+    if (subject.className != std::string(VORN_COMBOBOX_CLASS)) {
+        EnumChildWindows(control, Collect, reinterpret_cast<LPARAM>(&parts));
+    }
+    return parts;
 }
 
 void ForEachSubject(const std::function<void(const Subject&)>& act) {
