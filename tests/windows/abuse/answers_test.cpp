@@ -11,32 +11,6 @@
 namespace vorn::test {
 namespace {
 
-// Messages of controls: the system's for buttons, edits, lists and combo boxes, and private ones.
-bool IsControls(UINT message) {
-    const bool ofTheSystem = (message >= EM_GETSEL && message <= EM_GETIMESTATUS) ||
-                             (message >= BM_GETCHECK && message <= BM_SETDONTCLICK) ||
-                             (message >= CB_GETEDITSEL && message <= CB_MSGMAX) ||
-                             (message >= LB_ADDSTRING && message <= LB_MSGMAX);
-    return ofTheSystem || message >= WM_USER;
-}
-
-// What controls ask a parent.
-bool IsAsked(UINT message) {
-    switch (message) {
-    case WM_COMMAND:
-    case WM_VSCROLL:
-    case WM_DRAWITEM:
-    case WM_MEASUREITEM:
-    case WM_COMPAREITEM:
-    case WM_DELETEITEM:
-    case WM_VKEYTOITEM:
-    case WM_CHARTOITEM:
-        return true;
-    default:
-        return (message >= WM_CTLCOLORMSGBOX && message <= WM_CTLCOLORSTATIC) || message >= WM_USER;
-    }
-}
-
 LRESULT AnswerAsParent(const Message& message, LRESULT answer) {
     if (message.message == WM_MEASUREITEM) {
         auto* question = reinterpret_cast<MEASUREITEMSTRUCT*>(message.lParam);

@@ -21,14 +21,17 @@ struct Target {
     const char* name;
     HWND (*find)(HWND control, HWND called);
     bool inParts;
+    LRESULT answer; // the call's; those that have another one than 0 are in questions only
 };
 
 constexpr Target kTargets[] = {
-    {"the control", [](HWND control, HWND) { return control; }, false},
-    {"its parent", [](HWND control, HWND) { return GetParent(control); }, false},
-    {"the focus", [](HWND, HWND) { return GetFocus(); }, false},
-    {"the control, in calls of its parts", [](HWND control, HWND) { return control; }, true},
-    {"the part that is called", [](HWND, HWND called) { return called; }, true},
+    {"the control", [](HWND control, HWND) { return control; }, false, 0},
+    {"its parent", [](HWND control, HWND) { return GetParent(control); }, false, 0},
+    {"the focus", [](HWND, HWND) { return GetFocus(); }, false, 0},
+    {"the control, answering 1", [](HWND control, HWND) { return control; }, false, 1},
+    {"the control, answering -1", [](HWND control, HWND) { return control; }, false, -1},
+    {"the control, in calls of its parts", [](HWND control, HWND) { return control; }, true, 0},
+    {"the part that is called", [](HWND, HWND called) { return called; }, true, 0},
 };
 
 // All in the first style, which tells the most, and in the others the control itself.
@@ -38,8 +41,9 @@ bool Concerns(const Target& target, const Subject& subject, DWORD style) {
 }
 
 // An end that has begun is not begun anew.
-bool IsCall(UINT message) {
-    return message != WM_DESTROY && message != WM_NCDESTROY;
+bool IsCall(UINT message, const Target& target) {
+    return message != WM_DESTROY && message != WM_NCDESTROY &&
+           (target.answer == 0 || IsControls(message) || IsAsked(message));
 }
 
 // The system's own list does not bear to end while it asks about its items.
@@ -52,41 +56,58 @@ class Destroying : public testing::Test {
 protected:
     WatchedImports watched;
 
+    // Destroys the target in the call of a number.
+    class Trap {
+    public:
+        Trap(const Target& target, int number) : target_(target), number_(number) {}
+
+        // What the call is answered, if this is the one.
+        std::optional<LRESULT> Meet(HWND control, HWND called, UINT message) {
+            if (!armed || !IsCall(message, target_) || calls_++ != number_) {
+                return std::nullopt;
+            }
+            armed = false;
+            reached = true;
+            DestroyWindow(target_.find(control, called));
+            return target_.answer == 0 ? std::nullopt : std::optional<LRESULT>(target_.answer);
+        }
+
+        bool armed = true;
+        bool reached = false;
+
+    private:
+        const Target& target_;
+        int number_;
+        int calls_ = 0;
+    };
+
     // Runs an operation and destroys a window inside the call of this number. Whether it came so
     // far.
     static bool RunTo(Stage& stage, const Subject& subject, DWORD style, const Operation& operation,
                       const Target& target, int number) {
         HWND control = stage.Create(style);
         EXPECT_NE(control, nullptr);
-        int calls = 0;
-        bool armed = true;
-        const auto count = [&](HWND called, const Message& message) {
-            if (armed && IsCall(message.message) && calls++ == number) {
-                armed = false;
-                DestroyWindow(target.find(control, called));
-            }
-        };
-        std::vector<std::unique_ptr<Spy>> spies;
+        Trap trap(target, number);
         const std::vector<HWND> watchedParts =
             target.inParts ? PartsOf(subject, control) : std::vector<HWND>{control};
+        std::vector<std::unique_ptr<Spy>> spies;
         for (HWND part : watchedParts) {
             spies.push_back(std::make_unique<Spy>(part));
-            spies.back()->before = [&count, part, control](const Message& message) {
-                if (part == control || !IsListsQuestion(message.message)) {
-                    count(part, message);
-                }
+            spies.back()->answer = [&trap, part,
+                                    control](const Message& message) -> std::optional<LRESULT> {
+                return part == control || !IsListsQuestion(message.message)
+                           ? trap.Meet(control, part, message.message)
+                           : std::nullopt;
             };
         }
-        stage.host().answer = [&](const Message& message) -> std::optional<LRESULT> {
-            count(stage.host().window(), message);
-            return std::nullopt;
+        stage.host().answer = [&](const Message& message) {
+            return trap.Meet(control, GetParent(control), message.message);
         };
         operation.run(control);
-        const bool reached = !armed;
-        armed = false;
+        trap.armed = false;
         spies.clear();
         stage.Clear();
-        return reached;
+        return trap.reached;
     }
 
     // The same in the calls of a creation.
@@ -94,25 +115,17 @@ protected:
                          int number) {
         stage.Clear();
         stage.host();
-        bool reached = false;
-        {
-            CreationWatch watch(className);
-            int calls = 0;
-            const auto count = [&](const Message& message) {
-                if (!reached && IsCall(message.message) && calls++ == number) {
-                    reached = true;
-                    DestroyWindow(target.find(watch.window(), watch.window()));
-                }
-            };
-            watch.before = count;
-            stage.host().answer = [&](const Message& message) -> std::optional<LRESULT> {
-                count(message);
-                return std::nullopt;
-            };
-            stage.CreateHere(style);
-            stage.Clear();
-        }
-        return reached;
+        Trap trap(target, number);
+        CreationWatch watch(className);
+        const auto meet = [&](const Message& message) {
+            return trap.Meet(watch.window(), watch.window(), message.message);
+        };
+        watch.before = meet;
+        stage.host().answer = meet;
+        stage.CreateHere(style);
+        trap.armed = false;
+        stage.Clear();
+        return trap.reached;
     }
 
     // The number of calls until there are no more.

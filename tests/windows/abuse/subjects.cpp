@@ -278,6 +278,30 @@ std::vector<HWND> PartsOf(const Subject& subject, HWND control) {
     return parts;
 }
 
+bool IsControls(UINT message) {
+    const bool ofTheSystem = (message >= EM_GETSEL && message <= EM_GETIMESTATUS) ||
+                             (message >= BM_GETCHECK && message <= BM_SETDONTCLICK) ||
+                             (message >= CB_GETEDITSEL && message <= CB_MSGMAX) ||
+                             (message >= LB_ADDSTRING && message <= LB_MSGMAX);
+    return ofTheSystem || message >= WM_USER;
+}
+
+bool IsAsked(UINT message) {
+    switch (message) {
+    case WM_COMMAND:
+    case WM_VSCROLL:
+    case WM_DRAWITEM:
+    case WM_MEASUREITEM:
+    case WM_COMPAREITEM:
+    case WM_DELETEITEM:
+    case WM_VKEYTOITEM:
+    case WM_CHARTOITEM:
+        return true;
+    default:
+        return (message >= WM_CTLCOLORMSGBOX && message <= WM_CTLCOLORSTATIC) || message >= WM_USER;
+    }
+}
+
 void ForEachSubject(const std::function<void(const Subject&)>& act) {
     for (const Subject& subject : Subjects()) {
         SCOPED_TRACE(subject.className);

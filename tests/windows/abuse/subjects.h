@@ -51,6 +51,13 @@ std::vector<Operation> OperationsOf(const Subject& subject);
 // is not to be confused.
 std::vector<HWND> PartsOf(const Subject& subject, HWND control);
 
+// Messages that controls get: the system's for buttons, edits, lists and combo boxes, and private
+// ones.
+bool IsControls(UINT message);
+
+// What controls ask or tell a parent.
+bool IsAsked(UINT message);
+
 // Tells which class is at fault.
 void ForEachSubject(const std::function<void(const Subject&)>& act);
 
