@@ -11,32 +11,6 @@
 namespace vorn::test {
 namespace {
 
-// Messages of controls: the system's for buttons, edits, lists and combo boxes, and private ones.
-bool IsControls(UINT message) {
-    const bool ofTheSystem = (message >= EM_GETSEL && message <= EM_GETIMESTATUS) ||
-                             (message >= BM_GETCHECK && message <= BM_SETDONTCLICK) ||
-                             (message >= CB_GETEDITSEL && message <= CB_MSGMAX) ||
-                             (message >= LB_ADDSTRING && message <= LB_MSGMAX);
-    return ofTheSystem || message >= WM_USER;
-}
-
-// What controls ask a parent.
-bool IsAsked(UINT message) {
-    switch (message) {
-    case WM_COMMAND:
-    case WM_VSCROLL:
-    case WM_DRAWITEM:
-    case WM_MEASUREITEM:
-    case WM_COMPAREITEM:
-    case WM_DELETEITEM:
-    case WM_VKEYTOITEM:
-    case WM_CHARTOITEM:
-        return true;
-    default:
-        return (message >= WM_CTLCOLORMSGBOX && message <= WM_CTLCOLORSTATIC) || message >= WM_USER;
-    }
-}
-
 LRESULT AnswerAsParent(const Message& message, LRESULT answer) {
     if (message.message == WM_MEASUREITEM) {
         auto* question = reinterpret_cast<MEASUREITEMSTRUCT*>(message.lParam);
@@ -44,21 +18,6 @@ LRESULT AnswerAsParent(const Message& message, LRESULT answer) {
         question->itemWidth = static_cast<UINT>(answer);
     }
     return answer;
-}
-
-BOOL CALLBACK Collect(HWND window, LPARAM parts) {
-    reinterpret_cast<std::vector<HWND>*>(parts)->push_back(window);
-    return TRUE;
-}
-
-// The control, and the system's windows that it is made of. A combo box is the system's own, which
-// is not to be confused.
-std::vector<HWND> PartsOf(HWND control, const Subject& subject) {
-    std::vector<HWND> parts = {control};
-    if (subject.className != std::string(VORN_COMBOBOX_CLASS)) {
-        EnumChildWindows(control, Collect, reinterpret_cast<LPARAM>(&parts));
-    }
-    return parts;
 }
 
 class SenselessAnswers : public testing::Test {
@@ -73,7 +32,7 @@ protected:
             NoteDeed(operation.name + " of a " + subject.className);
             HWND control = stage.Create(style);
             std::vector<std::unique_ptr<Spy>> spies;
-            for (HWND part : PartsOf(control, subject)) {
+            for (HWND part : PartsOf(subject, control)) {
                 spies.push_back(std::make_unique<Spy>(part));
                 spies.back()->answer = [=](const Message& message) {
                     return IsControls(message.message) ? std::optional<LRESULT>(answer)

@@ -6,6 +6,7 @@
 #include "tests/windows/support/objects.h"
 
 #include <gtest/gtest.h>
+#include <set>
 #include <vorn32.h>
 
 namespace vorn::test {
@@ -158,6 +159,31 @@ protected:
         ForEachSubject([&](const Subject& subject) { RunAll(subject, state); });
     }
 };
+
+bool HasTimer(HWND control) {
+    bool found = false;
+    for (const UINT_PTR timer : {1, 2, 101, 567}) {
+        found = TakeTimer(control, timer) || found;
+    }
+    return found;
+}
+
+// Calendars, percent bars and font selectors do not capture the mouse.
+TEST_F(Conditions, FindControlsInTheStatesThatTheyAreFor) {
+    const std::set<std::string> neverCapture = {VORN_CALENDAR_CLASS, VORN_PERCENTBAR_CLASS,
+                                                VORN_FONTSELECT_CLASS};
+    ForEachSubject([&](const Subject& subject) {
+        Stage stage(subject);
+        kStates[2].enter(subject, stage.Create(subject.styles[0]));
+        EXPECT_EQ(GetCapture() == stage.control(), neverCapture.count(subject.className) == 0);
+        const bool hasTimer = kStates[3].enter(subject, stage.Create(subject.styles[0]));
+        EXPECT_EQ(HasTimer(stage.control()), hasTimer);
+        const bool takesFocus = subject.className != std::string(VORN_PERCENTBAR_CLASS);
+        kStates[1].enter(subject, stage.Create(subject.styles[0]));
+        EXPECT_TRUE(GetFocus() == stage.control() || IsChild(stage.control(), GetFocus()) ||
+                    !takesFocus);
+    });
+}
 
 TEST_F(Conditions, OfIdleControls) {
     RunIn(kStates[0]);

@@ -15,52 +15,99 @@ namespace {
 
 constexpr int kMostCalls = 3000;
 
-// What is destroyed.
+// What is destroyed, and in whose calls: those that the control and its parent get, or those of the
+// parts that the control is made of too.
 struct Target {
     const char* name;
-    HWND (*find)(HWND control);
+    HWND (*find)(HWND control, HWND called);
+    bool inParts;
+    LRESULT answer; // the call's; those that have another one than 0 are in questions only
 };
 
 constexpr Target kTargets[] = {
-    {"the control", [](HWND control) { return control; }},
-    {"its parent", [](HWND control) { return GetParent(control); }},
-    {"the focus", [](HWND) { return GetFocus(); }},
+    {"the control", [](HWND control, HWND) { return control; }, false, 0},
+    {"its parent", [](HWND control, HWND) { return GetParent(control); }, false, 0},
+    {"the focus", [](HWND, HWND) { return GetFocus(); }, false, 0},
+    {"the control, answering 1", [](HWND control, HWND) { return control; }, false, 1},
+    {"the control, answering -1", [](HWND control, HWND) { return control; }, false, -1},
+    {"the control, in calls of its parts", [](HWND control, HWND) { return control; }, true, 0},
+    {"the part that is called", [](HWND, HWND called) { return called; }, true, 0},
 };
 
+// All in the first style, which tells the most, and in the others the control itself.
+bool Concerns(const Target& target, const Subject& subject, DWORD style) {
+    const bool hasParts = subject.className == std::string(VORN_FONTSELECT_CLASS);
+    return style == subject.styles[0] ? hasParts || !target.inParts : &target == &kTargets[0];
+}
+
 // An end that has begun is not begun anew.
-bool IsCall(UINT message) {
-    return message != WM_DESTROY && message != WM_NCDESTROY;
+bool IsCall(UINT message, const Target& target) {
+    return message != WM_DESTROY && message != WM_NCDESTROY &&
+           (target.answer == 0 || IsControls(message) || IsAsked(message));
+}
+
+// The system's own list does not bear to end while it asks about its items.
+bool IsListsQuestion(UINT message) {
+    return message == WM_DELETEITEM || message == WM_MEASUREITEM || message == WM_DRAWITEM ||
+           message == WM_COMPAREITEM;
 }
 
 class Destroying : public testing::Test {
 protected:
     WatchedImports watched;
 
+    // Destroys the target in the call of a number.
+    class Trap {
+    public:
+        Trap(const Target& target, int number) : target_(target), number_(number) {}
+
+        // What the call is answered, if this is the one.
+        std::optional<LRESULT> Meet(HWND control, HWND called, UINT message) {
+            if (!armed || !IsCall(message, target_) || calls_++ != number_) {
+                return std::nullopt;
+            }
+            armed = false;
+            reached = true;
+            DestroyWindow(target_.find(control, called));
+            return target_.answer == 0 ? std::nullopt : std::optional<LRESULT>(target_.answer);
+        }
+
+        bool armed = true;
+        bool reached = false;
+
+    private:
+        const Target& target_;
+        int number_;
+        int calls_ = 0;
+    };
+
     // Runs an operation and destroys a window inside the call of this number. Whether it came so
     // far.
-    static bool RunTo(Stage& stage, DWORD style, const Operation& operation, const Target& target,
-                      int number) {
+    static bool RunTo(Stage& stage, const Subject& subject, DWORD style, const Operation& operation,
+                      const Target& target, int number) {
         HWND control = stage.Create(style);
         EXPECT_NE(control, nullptr);
-        int calls = 0;
-        bool armed = true;
-        const auto count = [&](const Message& message) {
-            if (armed && IsCall(message.message) && calls++ == number) {
-                armed = false;
-                DestroyWindow(target.find(control));
-            }
-        };
-        Spy spy(control);
-        spy.before = count;
-        stage.host().answer = [&](const Message& message) -> std::optional<LRESULT> {
-            count(message);
-            return std::nullopt;
+        Trap trap(target, number);
+        const std::vector<HWND> watchedParts =
+            target.inParts ? PartsOf(subject, control) : std::vector<HWND>{control};
+        std::vector<std::unique_ptr<Spy>> spies;
+        for (HWND part : watchedParts) {
+            spies.push_back(std::make_unique<Spy>(part));
+            spies.back()->answer = [&trap, part,
+                                    control](const Message& message) -> std::optional<LRESULT> {
+                return part == control || !IsListsQuestion(message.message)
+                           ? trap.Meet(control, part, message.message)
+                           : std::nullopt;
+            };
+        }
+        stage.host().answer = [&](const Message& message) {
+            return trap.Meet(control, GetParent(control), message.message);
         };
         operation.run(control);
-        const bool reached = !armed;
-        armed = false;
+        trap.armed = false;
+        spies.clear();
         stage.Clear();
-        return reached;
+        return trap.reached;
     }
 
     // The same in the calls of a creation.
@@ -68,25 +115,17 @@ protected:
                          int number) {
         stage.Clear();
         stage.host();
-        bool reached = false;
-        {
-            CreationWatch watch(className);
-            int calls = 0;
-            const auto count = [&](const Message& message) {
-                if (!reached && IsCall(message.message) && calls++ == number) {
-                    reached = true;
-                    DestroyWindow(target.find(watch.window()));
-                }
-            };
-            watch.before = count;
-            stage.host().answer = [&](const Message& message) -> std::optional<LRESULT> {
-                count(message);
-                return std::nullopt;
-            };
-            stage.CreateHere(style);
-            stage.Clear();
-        }
-        return reached;
+        Trap trap(target, number);
+        CreationWatch watch(className);
+        const auto meet = [&](const Message& message) {
+            return trap.Meet(watch.window(), watch.window(), message.message);
+        };
+        watch.before = meet;
+        stage.host().answer = meet;
+        stage.CreateHere(style);
+        trap.armed = false;
+        stage.Clear();
+        return trap.reached;
     }
 
     // The number of calls until there are no more.
@@ -104,14 +143,13 @@ protected:
         return number;
     }
 
-    // All targets in the first style, which tells the most; the control itself in all.
     static void RunAll(const char* className) {
         const Subject& subject = SubjectOf(className);
         Stage stage(subject);
         int all = 0;
         for (const DWORD style : subject.styles) {
             for (const Target& target : kTargets) {
-                if (style != subject.styles[0] && &target != &kTargets[0]) {
+                if (!Concerns(target, subject, style)) {
                     continue;
                 }
                 const std::string deed = std::string("style ") + std::to_string(style) + " of a " +
@@ -123,8 +161,9 @@ protected:
                 for (const Operation& operation : OperationsOf(subject)) {
                     SCOPED_TRACE(operation.name);
                     NoteDeed(operation.name + ", " + deed);
-                    all += RunThrough(
-                        [&](int number) { return RunTo(stage, style, operation, target, number); });
+                    all += RunThrough([&](int number) {
+                        return RunTo(stage, subject, style, operation, target, number);
+                    });
                 }
             }
         }

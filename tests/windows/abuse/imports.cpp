@@ -1,6 +1,7 @@
 #include "tests/windows/abuse/imports.h"
 
 #include <cstring>
+#include <deque>
 #include <map>
 
 namespace vorn::test {
@@ -141,10 +142,29 @@ BOOL WINAPI EndContext(HDC context) {
 HGLOBAL WINAPI GetGlobal(UINT flags, SIZE_T size) {
     return Get(Supply::Memory, "GlobalAlloc", [=] { return GlobalAlloc(flags, size); });
 }
+// What was given back is overwritten and kept from being used again for a while, so that whoever
+// still looks at it is found out.
+constexpr int kSpoilt = 0xDD;
+constexpr std::size_t kMostSpoilt = 500;
+std::deque<HGLOBAL> spoilt;
+
+void FreeSpoilt(std::size_t most) {
+    while (spoilt.size() > most) {
+        GlobalFree(spoilt.front());
+        spoilt.pop_front();
+    }
+}
+
 HGLOBAL WINAPI EndGlobal(HGLOBAL memory) {
-    HGLOBAL left = GlobalFree(memory);
-    GiveBack(memory, left == nullptr);
-    return left;
+    if (memory == nullptr || GlobalSize(memory) == 0) {
+        return GlobalFree(memory);
+    }
+    std::memset(GlobalLock(memory), kSpoilt, GlobalSize(memory));
+    GlobalUnlock(memory);
+    GiveBack(memory, true);
+    spoilt.push_back(memory);
+    FreeSpoilt(kMostSpoilt);
+    return nullptr;
 }
 void* WINAPI GetHeap(HANDLE heap, DWORD flags, SIZE_T size) {
     return Get(Supply::Memory, "HeapAlloc", [=] { return HeapAlloc(heap, flags, size); });
@@ -330,6 +350,7 @@ WatchedImports::WatchedImports() {
 WatchedImports::~WatchedImports() {
     StopFailing();
     Forget();
+    FreeSpoilt(0);
     for (Import& import : imports) {
         if (import.entry != nullptr) {
             Write(import.entry, import.original);

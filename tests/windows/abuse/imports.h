@@ -1,5 +1,6 @@
-// What the DLL asks of the system: written down, so that nothing is left behind, and failing when
-// it is told to. Its import table is changed, so the DLL under test is the one that hosts get.
+// What the DLL asks of the system: written down, so that nothing is left behind, failing when it is
+// told to, and made useless when it is given back. Its import table is changed, so the DLL under
+// test is the one that hosts get.
 #pragma once
 
 #include <windows.h>

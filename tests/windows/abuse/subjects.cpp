@@ -45,6 +45,11 @@ std::vector<Told> EditTells(const std::vector<int>& codes, UINT message = VDTM_C
                 {{VDTM_OKTOCHANGE, -1}, {VDTM_CHANGED, -1}, {message, -1}});
 }
 
+BOOL CALLBACK Collect(HWND window, LPARAM parts) {
+    reinterpret_cast<std::vector<HWND>*>(parts)->push_back(window);
+    return TRUE;
+}
+
 void Nothing(HWND) {}
 
 void Press(HWND window, POINT point) {
@@ -263,6 +268,38 @@ std::vector<Operation> OperationsOf(const Subject& subject) {
     const std::vector<Operation> ends = Ends(subject.press);
     operations.insert(operations.end(), ends.begin(), ends.end());
     return operations;
+}
+
+std::vector<HWND> PartsOf(const Subject& subject, HWND control) {
+    std::vector<HWND> parts = {control};
+    if (subject.className != std::string(VORN_COMBOBOX_CLASS)) {
+        EnumChildWindows(control, Collect, reinterpret_cast<LPARAM>(&parts));
+    }
+    return parts;
+}
+
+bool IsControls(UINT message) {
+    const bool ofTheSystem = (message >= EM_GETSEL && message <= EM_GETIMESTATUS) ||
+                             (message >= BM_GETCHECK && message <= BM_SETDONTCLICK) ||
+                             (message >= CB_GETEDITSEL && message <= CB_MSGMAX) ||
+                             (message >= LB_ADDSTRING && message <= LB_MSGMAX);
+    return ofTheSystem || message >= WM_USER;
+}
+
+bool IsAsked(UINT message) {
+    switch (message) {
+    case WM_COMMAND:
+    case WM_VSCROLL:
+    case WM_DRAWITEM:
+    case WM_MEASUREITEM:
+    case WM_COMPAREITEM:
+    case WM_DELETEITEM:
+    case WM_VKEYTOITEM:
+    case WM_CHARTOITEM:
+        return true;
+    default:
+        return (message >= WM_CTLCOLORMSGBOX && message <= WM_CTLCOLORSTATIC) || message >= WM_USER;
+    }
 }
 
 void ForEachSubject(const std::function<void(const Subject&)>& act) {

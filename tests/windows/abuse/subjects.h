@@ -47,6 +47,17 @@ const Subject& SubjectOf(const char* className);
 // The operations of every window, the class's own, then the ends.
 std::vector<Operation> OperationsOf(const Subject& subject);
 
+// The control, and the system's windows that it is made of. A combo box is the system's own, which
+// is not to be confused.
+std::vector<HWND> PartsOf(const Subject& subject, HWND control);
+
+// Messages that controls get: the system's for buttons, edits, lists and combo boxes, and private
+// ones.
+bool IsControls(UINT message);
+
+// What controls ask or tell a parent.
+bool IsAsked(UINT message);
+
 // Tells which class is at fault.
 void ForEachSubject(const std::function<void(const Subject&)>& act);
 
