@@ -13,23 +13,31 @@ constexpr int kWarmUp = 50;
 // object left in so many cycles moves it further.
 constexpr int kCyclesAnObject = 10;
 constexpr std::size_t kProbes = 2000;
+constexpr std::size_t kWindowProbes = 200;
 
 // The index part of a handle.
 int IndexOf(const void* handle) {
     return LOWORD(reinterpret_cast<UINT_PTR>(handle));
 }
 
-int HighestGdiPlace() {
-    std::array<HBRUSH, kProbes> brushes{};
+// The highest place that some new objects get; all are gone again afterwards.
+template <class Object, std::size_t kCount, class Make, class Free>
+int HighestPlace(Make make, Free free) {
+    std::array<Object, kCount> objects{};
     int highest = 0;
-    for (HBRUSH& brush : brushes) {
-        brush = CreateSolidBrush(RGB(1, 2, 3));
-        highest = std::max(highest, IndexOf(brush));
+    for (Object& object : objects) {
+        object = make();
+        highest = std::max(highest, IndexOf(object));
     }
-    for (HBRUSH brush : brushes) {
-        DeleteObject(brush);
+    for (Object object : objects) {
+        free(object);
     }
     return highest;
+}
+
+HWND MakeWindow() {
+    return CreateWindowExA(0, "STATIC", "", WS_POPUP, 0, 0, 1, 1, nullptr, nullptr, nullptr,
+                           nullptr);
 }
 
 DWORD Counted(DWORD kind) {
@@ -39,11 +47,9 @@ DWORD Counted(DWORD kind) {
 } // namespace
 
 ObjectPlaces FindObjectPlaces() {
-    HWND window =
-        CreateWindowExA(0, "STATIC", "", WS_POPUP, 0, 0, 1, 1, nullptr, nullptr, nullptr, nullptr);
-    const ObjectPlaces places = {HighestGdiPlace(), IndexOf(window)};
-    DestroyWindow(window);
-    return places;
+    return {HighestPlace<HBRUSH, kProbes>([] { return CreateSolidBrush(RGB(1, 2, 3)); },
+                                          [](HBRUSH brush) { DeleteObject(brush); }),
+            HighestPlace<HWND, kWindowProbes>(MakeWindow, DestroyWindow)};
 }
 
 std::string ObjectsLeftBy(const std::function<void()>& cycle, int cycles) {
