@@ -15,29 +15,46 @@ namespace {
 
 constexpr int kMostCalls = 3000;
 
-// What is destroyed, and in whose calls: those that the control and its parent get, or those of the
-// parts that the control is made of too.
+// What is different about the calls of a target.
+enum class Calls {
+    Usual,
+    OfParts,  // those that the parts get, which the control is made of, are calls too
+    WithKeys, // the parent answers keys and characters with a row
+};
+
+// What is destroyed, and in which calls.
 struct Target {
     const char* name;
     HWND (*find)(HWND control, HWND called);
-    bool inParts;
-    LRESULT answer; // the call's; those that have another one than 0 are in questions only
+    LRESULT answer = 0; // the call's; those that have another one are questions only
+    Calls calls = Calls::Usual;
 };
 
+HWND TheControl(HWND control, HWND) {
+    return control;
+}
+
 constexpr Target kTargets[] = {
-    {"the control", [](HWND control, HWND) { return control; }, false, 0},
-    {"its parent", [](HWND control, HWND) { return GetParent(control); }, false, 0},
-    {"the focus", [](HWND, HWND) { return GetFocus(); }, false, 0},
-    {"the control, answering 1", [](HWND control, HWND) { return control; }, false, 1},
-    {"the control, answering -1", [](HWND control, HWND) { return control; }, false, -1},
-    {"the control, in calls of its parts", [](HWND control, HWND) { return control; }, true, 0},
-    {"the part that is called", [](HWND, HWND called) { return called; }, true, 0},
+    {"the control", TheControl},
+    {"its parent", [](HWND control, HWND) { return GetParent(control); }},
+    {"the focus", [](HWND, HWND) { return GetFocus(); }},
+    {"the control, answering 1", TheControl, 1},
+    {"the control, answering -1", TheControl, -1},
+    {"the control, after an answer to a key", TheControl, 0, Calls::WithKeys},
+    {"the control, in calls of its parts", TheControl, 0, Calls::OfParts},
+    {"the part that is called", [](HWND, HWND called) { return called; }, 0, Calls::OfParts},
 };
+
+constexpr LRESULT kRowForKeys = 2;
 
 // All in the first style, which tells the most, and in the others the control itself.
 bool Concerns(const Target& target, const Subject& subject, DWORD style) {
-    const bool hasParts = subject.className == std::string(VORN_FONTSELECT_CLASS);
-    return style == subject.styles[0] ? hasParts || !target.inParts : &target == &kTargets[0];
+    const std::string name = subject.className;
+    if (style != subject.styles[0]) {
+        return &target == &kTargets[0];
+    }
+    return target.calls == Calls::Usual ||
+           name == (target.calls == Calls::OfParts ? VORN_FONTSELECT_CLASS : VORN_HIERLIST_CLASS);
 }
 
 // An end that has begun is not begun anew.
@@ -89,7 +106,7 @@ protected:
         EXPECT_NE(control, nullptr);
         Trap trap(target, number);
         const std::vector<HWND> watchedParts =
-            target.inParts ? PartsOf(subject, control) : std::vector<HWND>{control};
+            target.calls == Calls::OfParts ? PartsOf(subject, control) : std::vector<HWND>{control};
         std::vector<std::unique_ptr<Spy>> spies;
         for (HWND part : watchedParts) {
             spies.push_back(std::make_unique<Spy>(part));
@@ -101,7 +118,12 @@ protected:
             };
         }
         stage.host().answer = [&](const Message& message) {
-            return trap.Meet(control, GetParent(control), message.message);
+            const std::optional<LRESULT> met =
+                trap.Meet(control, GetParent(control), message.message);
+            const bool isKey = message.message == WM_VKEYTOITEM || message.message == WM_CHARTOITEM;
+            return isKey && !met && target.calls == Calls::WithKeys
+                       ? std::optional<LRESULT>(kRowForKeys)
+                       : met;
         };
         operation.run(control);
         trap.armed = false;
