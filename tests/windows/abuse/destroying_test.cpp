@@ -1,8 +1,8 @@
 // Hosts that destroy a window inside a call of theirs: each call in turn, until an operation makes
 // no more.
-#include "tests/windows/abuse/creation.h"
 #include "tests/windows/abuse/imports.h"
 #include "tests/windows/abuse/subjects.h"
+#include "tests/windows/abuse/trap.h"
 #include "tests/windows/support/crash.h"
 #include "tests/windows/support/spy.h"
 
@@ -13,31 +13,46 @@
 namespace vorn::test {
 namespace {
 
-constexpr int kMostCalls = 3000;
+// What is different about the calls of a target.
+enum class Calls {
+    Usual,
+    OfParts,  // those that the parts get, which the control is made of, are calls too
+    WithKeys, // the parent answers keys and characters with a row
+};
 
-// What is destroyed, and in whose calls: those that the control and its parent get, or those of the
-// parts that the control is made of too.
+// What is destroyed, and in which calls.
 struct Target {
     const char* name;
     HWND (*find)(HWND control, HWND called);
-    bool inParts;
-    LRESULT answer; // the call's; those that have another one than 0 are in questions only
+    LRESULT answer = 0; // the call's; those that have another one are questions only
+    Calls calls = Calls::Usual;
 };
 
+HWND TheControl(HWND control, HWND) {
+    return control;
+}
+
 constexpr Target kTargets[] = {
-    {"the control", [](HWND control, HWND) { return control; }, false, 0},
-    {"its parent", [](HWND control, HWND) { return GetParent(control); }, false, 0},
-    {"the focus", [](HWND, HWND) { return GetFocus(); }, false, 0},
-    {"the control, answering 1", [](HWND control, HWND) { return control; }, false, 1},
-    {"the control, answering -1", [](HWND control, HWND) { return control; }, false, -1},
-    {"the control, in calls of its parts", [](HWND control, HWND) { return control; }, true, 0},
-    {"the part that is called", [](HWND, HWND called) { return called; }, true, 0},
+    {"the control", TheControl},
+    {"its parent", [](HWND control, HWND) { return GetParent(control); }},
+    {"the focus", [](HWND, HWND) { return GetFocus(); }},
+    {"the control, answering 1", TheControl, 1},
+    {"the control, answering -1", TheControl, -1},
+    {"the control, after an answer to a key", TheControl, 0, Calls::WithKeys},
+    {"the control, in calls of its parts", TheControl, 0, Calls::OfParts},
+    {"the part that is called", [](HWND, HWND called) { return called; }, 0, Calls::OfParts},
 };
+
+constexpr LRESULT kRowForKeys = 2;
 
 // All in the first style, which tells the most, and in the others the control itself.
 bool Concerns(const Target& target, const Subject& subject, DWORD style) {
-    const bool hasParts = subject.className == std::string(VORN_FONTSELECT_CLASS);
-    return style == subject.styles[0] ? hasParts || !target.inParts : &target == &kTargets[0];
+    const std::string name = subject.className;
+    if (style != subject.styles[0]) {
+        return &target == &kTargets[0];
+    }
+    return target.calls == Calls::Usual ||
+           name == (target.calls == Calls::OfParts ? VORN_FONTSELECT_CLASS : VORN_HIERLIST_CLASS);
 }
 
 // An end that has begun is not begun anew.
@@ -46,128 +61,54 @@ bool IsCall(UINT message, const Target& target) {
            (target.answer == 0 || IsControls(message) || IsAsked(message));
 }
 
-// The system's own list does not bear to end while it asks about its items.
-bool IsListsQuestion(UINT message) {
-    return message == WM_DELETEITEM || message == WM_MEASUREITEM || message == WM_DRAWITEM ||
-           message == WM_COMPAREITEM;
+Trap TrapFor(const Target& target) {
+    Trap trap;
+    trap.act = [&target](HWND control, HWND called) {
+        DestroyWindow(target.find(control, called));
+    };
+    trap.isCall = [&target](UINT message) { return IsCall(message, target); };
+    trap.answer = target.answer;
+    trap.inParts = target.calls == Calls::OfParts;
+    if (target.calls == Calls::WithKeys) {
+        trap.answerToKeys = kRowForKeys;
+    }
+    return trap;
 }
 
 class Destroying : public testing::Test {
 protected:
     WatchedImports watched;
 
-    // Destroys the target in the call of a number.
-    class Trap {
-    public:
-        Trap(const Target& target, int number) : target_(target), number_(number) {}
-
-        // What the call is answered, if this is the one.
-        std::optional<LRESULT> Meet(HWND control, HWND called, UINT message) {
-            if (!armed || !IsCall(message, target_) || calls_++ != number_) {
-                return std::nullopt;
-            }
-            armed = false;
-            reached = true;
-            DestroyWindow(target_.find(control, called));
-            return target_.answer == 0 ? std::nullopt : std::optional<LRESULT>(target_.answer);
+    static int RunFor(Stage& stage, const Subject& subject, DWORD style, const Target& target) {
+        const std::string deed = std::string("style ") + std::to_string(style) + " of a " +
+                                 subject.className + ", destroying " + target.name;
+        SCOPED_TRACE(deed);
+        NoteDeed("creation, " + deed);
+        const Trap trap = TrapFor(target);
+        int calls = RunThrough(
+            [&](int number) { return CreateTrapped(stage, subject, style, trap, number); });
+        for (const Operation& operation : OperationsOf(subject)) {
+            SCOPED_TRACE(operation.name);
+            NoteDeed(operation.name + ", " + deed);
+            calls += RunThrough([&](int number) {
+                return RunTrapped(stage, subject, style, operation, trap, number);
+            });
         }
-
-        bool armed = true;
-        bool reached = false;
-
-    private:
-        const Target& target_;
-        int number_;
-        int calls_ = 0;
-    };
-
-    // Runs an operation and destroys a window inside the call of this number. Whether it came so
-    // far.
-    static bool RunTo(Stage& stage, const Subject& subject, DWORD style, const Operation& operation,
-                      const Target& target, int number) {
-        HWND control = stage.Create(style);
-        EXPECT_NE(control, nullptr);
-        Trap trap(target, number);
-        const std::vector<HWND> watchedParts =
-            target.inParts ? PartsOf(subject, control) : std::vector<HWND>{control};
-        std::vector<std::unique_ptr<Spy>> spies;
-        for (HWND part : watchedParts) {
-            spies.push_back(std::make_unique<Spy>(part));
-            spies.back()->answer = [&trap, part,
-                                    control](const Message& message) -> std::optional<LRESULT> {
-                return part == control || !IsListsQuestion(message.message)
-                           ? trap.Meet(control, part, message.message)
-                           : std::nullopt;
-            };
-        }
-        stage.host().answer = [&](const Message& message) {
-            return trap.Meet(control, GetParent(control), message.message);
-        };
-        operation.run(control);
-        trap.armed = false;
-        spies.clear();
-        stage.Clear();
-        return trap.reached;
-    }
-
-    // The same in the calls of a creation.
-    static bool CreateTo(Stage& stage, const char* className, DWORD style, const Target& target,
-                         int number) {
-        stage.Clear();
-        stage.host();
-        Trap trap(target, number);
-        CreationWatch watch(className);
-        const auto meet = [&](const Message& message) {
-            return trap.Meet(watch.window(), watch.window(), message.message);
-        };
-        watch.before = meet;
-        stage.host().answer = meet;
-        stage.CreateHere(style);
-        trap.armed = false;
-        stage.Clear();
-        return trap.reached;
-    }
-
-    // The number of calls until there are no more.
-    template <class Run>
-    static int RunThrough(Run run) {
-        int number = 0;
-        while (number < kMostCalls && run(number)) {
-            ++number;
-            if (WatchedImports::Left() != "") {
-                ADD_FAILURE() << "in call " << number - 1 << " left\n" << WatchedImports::Left();
-                WatchedImports::Forget();
-            }
-        }
-        EXPECT_LT(number, kMostCalls) << "does not come to an end";
-        return number;
+        return calls;
     }
 
     static void RunAll(const char* className) {
         const Subject& subject = SubjectOf(className);
         Stage stage(subject);
-        int all = 0;
+        int calls = 0;
         for (const DWORD style : subject.styles) {
             for (const Target& target : kTargets) {
-                if (!Concerns(target, subject, style)) {
-                    continue;
-                }
-                const std::string deed = std::string("style ") + std::to_string(style) + " of a " +
-                                         className + ", destroying " + target.name;
-                SCOPED_TRACE(deed);
-                NoteDeed("creation, " + deed);
-                all += RunThrough(
-                    [&](int number) { return CreateTo(stage, className, style, target, number); });
-                for (const Operation& operation : OperationsOf(subject)) {
-                    SCOPED_TRACE(operation.name);
-                    NoteDeed(operation.name + ", " + deed);
-                    all += RunThrough([&](int number) {
-                        return RunTo(stage, subject, style, operation, target, number);
-                    });
+                if (Concerns(target, subject, style)) {
+                    calls += RunFor(stage, subject, style, target);
                 }
             }
         }
-        std::printf("%d calls\n", all);
+        std::printf("%d calls\n", calls);
     }
 };
 

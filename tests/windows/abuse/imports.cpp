@@ -1,7 +1,8 @@
 #include "tests/windows/abuse/imports.h"
 
+#include "tests/windows/abuse/fences.h"
+
 #include <cstring>
-#include <deque>
 #include <map>
 
 namespace vorn::test {
@@ -139,32 +140,38 @@ BOOL WINAPI EndContext(HDC context) {
 
 // ---- Memory ----
 
+// A block is its own handle. What it holds at first is nothing to rely on unless it was asked for
+// with zeros.
+constexpr int kAnything = 0xCD;
+
 HGLOBAL WINAPI GetGlobal(UINT flags, SIZE_T size) {
-    return Get(Supply::Memory, "GlobalAlloc", [=] { return GlobalAlloc(flags, size); });
+    return Get(Supply::Memory, "GlobalAlloc", [=] {
+        void* block = GetFenced(size);
+        if (block != nullptr && (flags & GMEM_ZEROINIT) == 0) {
+            std::memset(block, kAnything, size);
+        }
+        return block != nullptr ? block : GlobalAlloc(flags, size);
+    });
 }
-// What was given back is overwritten and kept from being used again for a while, so that whoever
-// still looks at it is found out.
-constexpr int kSpoilt = 0xDD;
-constexpr std::size_t kMostSpoilt = 500;
-std::deque<HGLOBAL> spoilt;
-
-void FreeSpoilt(std::size_t most) {
-    while (spoilt.size() > most) {
-        GlobalFree(spoilt.front());
-        spoilt.pop_front();
-    }
-}
-
 HGLOBAL WINAPI EndGlobal(HGLOBAL memory) {
-    if (memory == nullptr || GlobalSize(memory) == 0) {
+    GiveBack(memory, true);
+    if (!IsFenced(memory)) {
         return GlobalFree(memory);
     }
-    std::memset(GlobalLock(memory), kSpoilt, GlobalSize(memory));
-    GlobalUnlock(memory);
-    GiveBack(memory, true);
-    spoilt.push_back(memory);
-    FreeSpoilt(kMostSpoilt);
+    FreeFenced(memory);
     return nullptr;
+}
+void* WINAPI LockGlobal(HGLOBAL memory) {
+    return IsFenced(memory) ? memory : GlobalLock(memory);
+}
+BOOL WINAPI UnlockGlobal(HGLOBAL memory) {
+    return IsFenced(memory) ? FALSE : GlobalUnlock(memory);
+}
+SIZE_T WINAPI SizeOfGlobal(HGLOBAL memory) {
+    return IsFenced(memory) ? FencedSize(memory) : GlobalSize(memory);
+}
+HGLOBAL WINAPI HandleOfGlobal(const void* block) {
+    return IsFenced(block) ? const_cast<void*>(block) : GlobalHandle(block);
 }
 void* WINAPI GetHeap(HANDLE heap, DWORD flags, SIZE_T size) {
     return Get(Supply::Memory, "HeapAlloc", [=] { return HeapAlloc(heap, flags, size); });
@@ -217,12 +224,25 @@ BOOL WINAPI StoreProp(HWND window, LPCSTR name, HANDLE value) {
 BOOL WINAPI GetClipboard(HWND window) {
     return Fails(Supply::Windows) ? FALSE : OpenClipboard(window);
 }
+// The clipboard takes the system's own memory only.
 HANDLE WINAPI FillClipboard(UINT format, HANDLE memory) {
     if (Fails(Supply::Windows)) {
         return nullptr;
     }
-    HANDLE stored = SetClipboardData(format, memory);
-    GiveBack(memory, stored != nullptr); // the clipboard's from then on
+    if (!IsFenced(memory)) {
+        HANDLE stored = SetClipboardData(format, memory);
+        GiveBack(memory, stored != nullptr);
+        return stored;
+    }
+    HGLOBAL copy = GlobalAlloc(GMEM_MOVEABLE, FencedSize(memory));
+    std::memcpy(GlobalLock(copy), memory, FencedSize(memory));
+    GlobalUnlock(copy);
+    HANDLE stored = SetClipboardData(format, copy);
+    if (stored == nullptr) {
+        GlobalFree(copy);
+    } else {
+        EndGlobal(memory);
+    }
     return stored;
 }
 
@@ -262,6 +282,10 @@ Import imports[] = {
     Replace("DeleteDC", EndContext),
     Replace("GlobalAlloc", GetGlobal),
     Replace("GlobalFree", EndGlobal),
+    Replace("GlobalLock", LockGlobal),
+    Replace("GlobalUnlock", UnlockGlobal),
+    Replace("GlobalSize", SizeOfGlobal),
+    Replace("GlobalHandle", HandleOfGlobal),
     Replace("HeapAlloc", GetHeap),
     Replace("HeapFree", EndHeap),
     Replace("CreateWindowExA", MakeWindow),
@@ -350,7 +374,6 @@ WatchedImports::WatchedImports() {
 WatchedImports::~WatchedImports() {
     StopFailing();
     Forget();
-    FreeSpoilt(0);
     for (Import& import : imports) {
         if (import.entry != nullptr) {
             Write(import.entry, import.original);

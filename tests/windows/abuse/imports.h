@@ -1,5 +1,5 @@
 // What the DLL asks of the system: written down, so that nothing is left behind, failing when it is
-// told to, and made useless when it is given back. Its import table is changed, so the DLL under
+// told to, and with memory that is fenced. Its import table is changed, so the DLL under
 // test is the one that hosts get.
 #pragma once
 

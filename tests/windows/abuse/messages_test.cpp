@@ -225,5 +225,31 @@ TEST_F(RandomMessages, ToDialogProceduresWithWindowsThatAreNone) {
     }
 }
 
+// What carries addresses carries none. A drive of the list's is not asked for all its folders, and
+// the combo box is the system's own.
+TEST_F(RandomMessages, WithoutTheirAddresses) {
+    ForEachSubject([](const Subject& subject) {
+        std::vector<UINT> messages = subject.addresses;
+        messages.insert(messages.end(), {WM_SETTEXT, WM_GETTEXT, WM_WININICHANGE});
+        for (const DWORD style : subject.styles) {
+            Stage stage(subject);
+            HWND window = stage.Create(style);
+            for (const UINT message : messages) {
+                if (message == OLBM_DIREX || !KnowsOthersWindows(subject)) {
+                    continue;
+                }
+                const bool carriesTwo = message == EM_GETSEL;
+                for (const WPARAM wParam : {0u, 1u, 100u, 0x7FFFFFFFu, 0xFFFFFFFFu}) {
+                    NoteDeed(std::to_string(message) + " to a " + subject.className);
+                    SendMessageA(window, message, carriesTwo ? 0 : wParam, 0);
+                }
+            }
+            EXPECT_TRUE(IsWindow(window));
+            stage.Clear();
+            EXPECT_EQ(WatchedImports::Left(), "");
+        }
+    });
+}
+
 } // namespace
 } // namespace vorn::test

@@ -2,6 +2,7 @@
 // all after it, until the operation makes no more.
 #include "tests/windows/abuse/imports.h"
 #include "tests/windows/abuse/subjects.h"
+#include "tests/windows/abuse/trap.h"
 #include "tests/windows/support/crash.h"
 
 #include <gtest/gtest.h>
@@ -10,8 +11,6 @@
 
 namespace vorn::test {
 namespace {
-
-constexpr int kMostRequests = 3000;
 
 class Shortage : public testing::Test {
 protected:
@@ -49,21 +48,6 @@ protected:
         return wasShort;
     }
 
-    // Counts the requests.
-    template <class Run>
-    static int RunUntilEnough(Run run) {
-        int number = 0;
-        while (number < kMostRequests && run(number)) {
-            ++number;
-            if (WatchedImports::Left() != "") {
-                ADD_FAILURE() << "request " << number - 1 << " left\n" << WatchedImports::Left();
-                WatchedImports::Forget();
-            }
-        }
-        EXPECT_LT(number, kMostRequests) << "does not come to an end";
-        return number;
-    }
-
     static void RunAll(const char* className) {
         const Subject& subject = SubjectOf(className);
         Stage stage(subject);
@@ -75,14 +59,14 @@ protected:
                 for (const DWORD style : subject.styles) {
                     SCOPED_TRACE("creation of a " + what + ", style " + std::to_string(style));
                     NoteDeed("creation of a " + what);
-                    all += RunUntilEnough([&](int number) {
+                    all += RunThrough([&](int number) {
                         return CreateShort(stage, subject, style, supply, number, failures);
                     });
                 }
                 for (const Operation& operation : OperationsOf(subject)) {
                     SCOPED_TRACE(operation.name + " of a " + what);
                     NoteDeed(operation.name + " of a " + what);
-                    all += RunUntilEnough([&](int number) {
+                    all += RunThrough([&](int number) {
                         return RunShort(stage, subject.styles[0], operation, supply, number,
                                         failures);
                     });

@@ -248,7 +248,7 @@ std::vector<Operation> NumEditOperations() {
                                            nmEnableSpinButtons(window, FALSE);
                                            nmSetColor(window, VORN_COLOR_TEXT, 5);
                                        }},
-                                      Hold("spin", 80, 6, {1, 2, 2}),
+                                      Hold("spin", 84, 6, {1, 2, 2}),
                                   });
 }
 
