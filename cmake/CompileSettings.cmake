@@ -28,6 +28,14 @@ if(WIN32)
   endif()
 endif()
 
+if(VORN_CHECKED)
+  # Traps need no run-time library, which MinGW has not. What the standard library demands of its
+  # callers (std::clamp, std::span) the compiler does not know.
+  target_compile_options(vorn_library_settings INTERFACE
+    -fsanitize=undefined,float-cast-overflow -fno-sanitize=vptr -fsanitize-undefined-trap-on-error)
+  target_compile_definitions(vorn_library_settings INTERFACE _GLIBCXX_ASSERTIONS)
+endif()
+
 if(VORN_SANITIZE)
   add_compile_options(-fsanitize=address,undefined -fno-sanitize=vptr
                       -fno-sanitize-recover=all -fno-omit-frame-pointer)

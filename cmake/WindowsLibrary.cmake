@@ -12,6 +12,14 @@ configure_file(resources/version.h.in ${CMAKE_BINARY_DIR}/version/version.h @ONL
 
 set(system_libraries user32 gdi32 version mpr)
 
+if(VORN_CHECKED)
+  # Guarded blocks stand before those of the library, which are counted, made to fail and kept for
+  # what needs a handle: a property is one that the host can lock.
+  list(APPEND window_sources tests/support/guarded_memory_win.cpp)
+  set_source_files_properties(core/memory_win.cpp core/property_win.cpp PROPERTIES
+    COMPILE_DEFINITIONS "AllocBlock=AllocPlainBlock;FreeBlock=FreePlainBlock")
+endif()
+
 # Linked as C: nothing of the C++ runtime may be needed. The compiler's own functions (64-bit division
 # on 32-bit Windows) are linked before CMake brings their DLL in with the C++ library.
 add_library(VORN32 MODULE ${window_sources} resources/vorn32.rc ${dll_definition})
@@ -23,12 +31,19 @@ set(resource_inputs ${picture_bitmaps} ${CMAKE_SOURCE_DIR}/resources/fontselect.
 set_source_files_properties(resources/vorn32.rc PROPERTIES OBJECT_DEPENDS "${resource_inputs}")
 add_dependencies(VORN32 vorn_pictures)
 target_compile_definitions(VORN32 PRIVATE VORN32_BUILD)
-# The window halves wait for the system most of the time; small is what counts there.
-target_compile_options(VORN32 PRIVATE -Os)
+if(VORN_CHECKED)
+  # The standard library says itself what is wrong.
+  target_link_libraries(VORN32 PRIVATE -static stdc++ gcc_eh gcc)
+else()
+  # The window halves wait for the system most of the time; small is what counts there.
+  target_compile_options(VORN32 PRIVATE -Os)
+  # Only a checked build's faults are looked up by their addresses.
+  target_link_options(VORN32 PRIVATE -s)
+endif()
 set_target_properties(VORN32 PROPERTIES
   PREFIX "" LINKER_LANGUAGE C LIBRARY_OUTPUT_DIRECTORY ${CMAKE_BINARY_DIR})
 target_link_options(VORN32 PRIVATE
-  -s -static-libgcc
+  -static-libgcc
   -Wl,--dynamicbase,--nxcompat,--no-insert-timestamp,--no-seh
   -Wl,--exclude-all-symbols,--gc-sections)
 if(CMAKE_SIZEOF_VOID_P EQUAL 8)

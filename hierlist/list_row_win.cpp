@@ -28,6 +28,25 @@ void Copy(const RowTools& tools, const Rect& target, Point source) {
            source.x, source.y, SRCCOPY);
 }
 
+constexpr UINT kTextFormat = DT_SINGLELINE;
+
+// In texts as in captions what follows an ampersand is underlined, and two of them are one. Most
+// have none, and are measured and written at once.
+bool HasAmpersand(const char* text, int length) {
+    return std::memchr(text, '&', static_cast<std::size_t>(length)) != nullptr;
+}
+
+int WidthOf(HDC context, const char* text, int length) {
+    if (HasAmpersand(text, length)) {
+        RECT area{};
+        DrawTextA(context, text, length, &area, kTextFormat | DT_CALCRECT);
+        return area.right;
+    }
+    SIZE size{};
+    GetTextExtentPoint32A(context, text, length, &size);
+    return size.cx;
+}
+
 // A piece of a text between tabs, and where it begins behind the text's start.
 struct Piece {
     const char* text = nullptr;
@@ -53,9 +72,7 @@ public:
         piece.length = static_cast<int>(tab != nullptr ? static_cast<std::size_t>(tab - next_)
                                                        : std::strlen(next_));
         piece.x = x_;
-        SIZE size{};
-        GetTextExtentPoint32A(context_, piece.text, piece.length, &size);
-        piece.width = size.cx;
+        piece.width = WidthOf(context_, piece.text, piece.length);
         next_ = tab != nullptr ? tab + 1 : nullptr;
         x_ = next_ != nullptr ? NextTab(tabs_, units_, x_ + piece.width) : x_ + piece.width;
         return true;
@@ -80,7 +97,12 @@ int TextWidth(HDC context, const Record& record, const char* text) {
 }
 
 void WritePiece(HDC context, const char* text, int length, int left, int top) {
-    ExtTextOutA(context, left, top, 0, nullptr, text, static_cast<UINT>(length), nullptr);
+    if (HasAmpersand(text, length)) {
+        RECT area = {left, top, left, top};
+        DrawTextA(context, text, length, &area, kTextFormat | DT_NOCLIP);
+    } else {
+        ExtTextOutA(context, left, top, 0, nullptr, text, static_cast<UINT>(length), nullptr);
+    }
 }
 
 void WriteText(HDC context, const Record& record, const char* text, const Rect& row, int left) {

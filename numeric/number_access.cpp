@@ -50,6 +50,23 @@ bool PadsDecimals(const NumberSettings& settings) {
            settings.formatKind != kFloatingUnpadded;
 }
 
+// The text that a value is written as, as if there were no limit to it. An integer kind has no text
+// for what is no finite number, but one for the nearer end of 32 bits.
+void WriteWhole(const NumberSettings& settings, double value, Written as,
+                std::span<char, kNumberTextSize> text) {
+    const double kept = ClampToRange(settings, value);
+    const bool isInteger = IsIntegerKind(settings.formatKind);
+    const bool floating = as == Written::Floating || as == Written::UnsignedLong;
+    if (floating && (!isInteger || std::isfinite(kept))) {
+        WriteFloating(text, isInteger ? std::trunc(kept) : kept);
+    } else {
+        WriteInteger(text, kept, as == Written::UnsignedInteger || as == Written::UnsignedLong);
+    }
+    if (PadsDecimals(settings) && std::isfinite(kept)) {
+        RoundDigits(text, settings.decimalDigits, '.', settings.formatKind);
+    }
+}
+
 } // namespace
 
 std::int32_t ReadInteger(const NumberEntry& entry) {
@@ -64,23 +81,17 @@ int ReadLastGoodNumber(const NumberEntry& entry, std::span<char, kNumberTextSize
     return FormatValue(entry.settings, ValueOf(entry), 1, text);
 }
 
-edit::Actions Write(NumberEntry& entry, double value, Written as) {
-    const NumberSettings& settings = entry.settings;
-    const double kept = ClampToRange(settings, value);
-    const bool floating = as == Written::Floating || as == Written::UnsignedLong;
+bool IsCutWritten(const NumberEntry& entry, double value, Written as) {
     char text[kNumberTextSize];
-    if (floating) {
-        WriteFloating(text, IsIntegerKind(settings.formatKind) ? std::trunc(kept) : kept);
-    } else {
-        WriteInteger(text, kept, as == Written::UnsignedInteger || as == Written::UnsignedLong);
-    }
-    if (PadsDecimals(settings) && std::isfinite(kept)) {
-        RoundDigits(text, settings.decimalDigits, '.', settings.formatKind);
-    }
+    WriteWhole(entry.settings, value, as, text);
+    return CutAtLimit(entry, text);
+}
+
+edit::Actions Write(NumberEntry& entry, double value, Written as) {
+    char text[kNumberTextSize];
+    WriteWhole(entry.settings, value, as, text);
+    CutAtLimit(entry, text);
     edit::Actions actions;
-    if (CutAtLimit(entry, text)) {
-        Append(actions, {ActionKind::Notify, kTextCut});
-    }
     StoreEdited(entry, text, 0);
     ResetCaret(entry);
     entry.modified = 0;

@@ -30,8 +30,11 @@ enum class Written : std::uint8_t {
 // without its fraction or, of the last two, in general form. The decimal digits are those of the
 // settings in kinds kGeneral and kFloating to kFloatingGroupedParentheses, unless it is displayed
 // in digits; kFloatingUnpadded has only the decimals that are not 0, and an integer kind has none.
-// A text that reaches the limit is cut, with kTextCut. Caret and selection go to the start and the
-// number counts as unmodified; no other notification tells of it.
+// A text that reaches the limit is cut. Caret and selection go to the start and the number counts
+// as unmodified; no notification tells of it.
 edit::Actions Write(NumberEntry& entry, double value, Written as);
+
+// Whether that cuts the text, of which the parent is told before (kTextCut).
+bool IsCutWritten(const NumberEntry& entry, double value, Written as);
 
 } // namespace vorn::numeric

@@ -60,7 +60,7 @@ bool MayBecomeNumber(const NumberSettings& settings, const Draft& draft) {
 
 void StoreDraft(edit::Actions& actions, NumberEntry& entry, const Draft& draft) {
     StoreEdited(entry, draft.text, draft.caret);
-    AppendChange(actions, ActionKind::Repaint);
+    AppendNumberChange(actions, ActionKind::Repaint);
 }
 
 void StoreNumber(edit::Actions& actions, NumberEntry& entry, const Draft& draft) {
@@ -79,7 +79,7 @@ void StoreNumber(edit::Actions& actions, NumberEntry& entry, const Draft& draft)
     }
     if (fits) {
         StoreEdited(entry, text, draft.caret);
-        AppendChange(actions, ActionKind::Repaint);
+        AppendNumberChange(actions, ActionKind::Repaint);
     }
 }
 

@@ -54,12 +54,17 @@ void StoreCreationText(NumberEntry& entry, const char* text) {
     KeepPoint(entry);
 }
 
+void AppendNumberChange(edit::Actions& actions, edit::ActionKind repaint) {
+    Append(actions, {edit::ActionKind::Scroll});
+    AppendChange(actions, repaint);
+}
+
 edit::Actions SetText(NumberEntry& entry, const char* text) {
     StoreCreationText(entry, text == nullptr ? "" : text);
     ResetCaret(entry);
     entry.modified = 0;
     edit::Actions actions;
-    AppendChange(actions, edit::ActionKind::Repaint);
+    AppendNumberChange(actions, edit::ActionKind::Repaint);
     return actions;
 }
 

@@ -47,6 +47,9 @@ void WriteEdited(const NumberSettings& settings, double value, std::span<char> t
 // Makes the settings' decimal character "." in the text; for settings that have changed.
 void KeepPoint(NumberEntry& entry);
 
+// What a change by the user does once it is stored; the caret is in view before anybody is told.
+void AppendNumberChange(edit::Actions& actions, edit::ActionKind repaint);
+
 // The text that a control is created with; null stands for "0".
 void StoreCreationText(NumberEntry& entry, const char* text);
 

@@ -28,7 +28,7 @@ Actions StoreStepped(NumberEntry& entry, double value) {
     }
     entry.caret.firstVisible = 0;
     StoreEdited(entry, text, kLongestText);
-    AppendChange(actions, ActionKind::RepaintText);
+    AppendNumberChange(actions, ActionKind::RepaintText);
     return actions;
 }
 

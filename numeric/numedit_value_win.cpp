@@ -1,5 +1,6 @@
 // The numeric edit's exported functions that read and write its value.
 #include "core/edit/edit_caret_win.h"
+#include "core/window_win.h"
 #include "numeric/number_access.h"
 #include "numeric/numedit_win.h"
 
@@ -31,6 +32,10 @@ LRESULT AskAndWrite(HWND window, double value, Written as) {
     }
     const LRESULT answer = SendMessageA(window, VNMM_OKTOCHANGE, 0, 0);
     Record* record = RecordOf<Record>(window);
+    if (answer != 0 && record != nullptr && IsCutWritten(record->entry, value, as)) {
+        NotifyParent(window, kTextCut);
+        record = RecordOf<Record>(window);
+    }
     if (answer != 0 && record != nullptr) {
         PerformEdit(kNumberKind, window, Write(record->entry, value, as));
     }

@@ -27,6 +27,7 @@ enum class ActionKind : std::uint8_t {
     PostChanged, // the same, posted
     Repaint,     // the client area at once, without erasing
     RepaintText, // only the text area
+    Scroll,      // to where the caret is in view, to be repainted by what follows
     PlaceCaret,  // where the state says, scrolled into view
     PassOn,      // the message, to the default procedure, whose result is the message's
     // The selection is to be put on the clipboard; for Cut the edit clears it once it is there.

@@ -108,6 +108,7 @@ struct EditKind {
     bool tellsScrolling = true;      // kHScroll and kMaxText
     bool growsSameBorder = true;     // a border that is set again comes on top of the one there is
     bool tellsFocusLossFirst = true; // before the caret goes and the edit is repainted, else after
+    bool beepsRefusedMessages = false; // WM_CUT, WM_PASTE, WM_CLEAR and EM_REPLACESEL
 };
 
 // Reads the style bits that all edits have, and takes the system font. The three styles that

@@ -36,6 +36,15 @@ void ShowCaretAgain(HWND window, EditBody& body) {
     }
 }
 
+// A repaint that follows shows it.
+void ScrollText(const EditKind& kind, HWND window) {
+    EditBody* body = kind.bodyOf(window);
+    if (body != nullptr && body->focused) {
+        ScrollToCaret(*body->caret, ShownEdit(kind, *body).shown(),
+                      TextAreaOf(window, *body, kind).right);
+    }
+}
+
 } // namespace
 
 void PlaceCaret(const EditKind& kind, HWND window, Told told) {
@@ -198,6 +207,9 @@ bool PerformEdit(const EditKind& kind, HWND window, const Actions& actions) {
             break;
         case ActionKind::RepaintText:
             RepaintText(kind, window);
+            break;
+        case ActionKind::Scroll:
+            ScrollText(kind, window);
             break;
         case ActionKind::PlaceCaret:
             PlaceCaret(kind, window, Told::Yes);

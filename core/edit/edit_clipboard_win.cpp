@@ -9,7 +9,7 @@
 namespace vorn::edit {
 namespace {
 
-// Longer than anything that an edit takes.
+// Longer than anything that an edit takes: a text that fills it is refused.
 constexpr std::size_t kPastedTextSize = 256;
 
 // The clipboard, open for as long as it is needed.
@@ -103,7 +103,9 @@ void PasteFromClipboard(const EditKind& kind, HWND window) {
         return;
     }
     EditBody* body = kind.bodyOf(window);
-    if (body != nullptr) {
+    if (std::strlen(text) == kPastedTextSize - 1) {
+        MessageBeep(MB_ICONHAND);
+    } else if (body != nullptr) {
         PerformEdit(kind, window, kind.takeText(*body, text));
     }
 }

@@ -67,14 +67,39 @@ LRESULT OnSetReadOnly(const EditKind& kind, const EditMessage& message) {
     return TRUE;
 }
 
-// An empty text clears the selection.
+// Whether a change that a message asks for may be made; runs host code.
+bool MayChangeByMessage(const EditKind& kind, HWND window) {
+    const bool allowed = IsOkToChange(kind, window);
+    if (!allowed && kind.beepsRefusedMessages) {
+        MessageBeep(MB_ICONHAND);
+    }
+    return allowed;
+}
+
+// The same for what a user's menu sends.
+bool MayEditByMessage(const EditKind& kind, HWND window) {
+    if (!kind.bodyOf(window)->readOnly) {
+        return MayChangeByMessage(kind, window);
+    }
+    if (kind.beepsRefusedMessages) {
+        MessageBeep(MB_ICONHAND);
+    }
+    return false;
+}
+
+// An empty text clears the selection. As with the system's edit, a read-only one takes it.
 void OnReplaceSelection(const EditKind& kind, const EditMessage& message) {
     const auto* text = reinterpret_cast<const char*>(message.lParam);
-    if (text == nullptr || *text == '\0') {
-        ClearByMessage(kind, message.window);
-    } else if (IsOkToChange(kind, message.window)) {
-        PerformEdit(kind, message.window, kind.takeText(*kind.bodyOf(message.window), text));
+    const bool clears = text == nullptr || *text == '\0';
+    if (clears && !HasSelection(*kind.bodyOf(message.window)->caret)) {
+        return;
     }
+    if (!MayChangeByMessage(kind, message.window)) {
+        return;
+    }
+    EditBody& body = *kind.bodyOf(message.window);
+    PerformEdit(kind, message.window,
+                clears ? kind.clearSelection(body) : kind.takeText(body, text));
 }
 
 bool AnswerSelectionMessage(const EditKind& kind, EditBody& body, const EditMessage& message,
@@ -229,10 +254,7 @@ bool AnswerEditMessage(const EditKind& kind, const EditMessage& message, LRESULT
 
 void ClearByMessage(const EditKind& kind, HWND window) {
     const EditBody* body = kind.bodyOf(window);
-    if (body == nullptr || body->readOnly || !HasSelection(*body->caret)) {
-        return;
-    }
-    if (IsOkToChange(kind, window)) {
+    if (body != nullptr && HasSelection(*body->caret) && MayEditByMessage(kind, window)) {
         PerformEdit(kind, window, kind.clearSelection(*kind.bodyOf(window)));
     }
 }
@@ -245,8 +267,7 @@ void CutByMessage(const EditKind& kind, HWND window) {
 }
 
 void PasteByMessage(const EditKind& kind, HWND window) {
-    const EditBody* body = kind.bodyOf(window);
-    if (body != nullptr && !body->readOnly && IsOkToChange(kind, window)) {
+    if (kind.bodyOf(window) != nullptr && MayEditByMessage(kind, window)) {
         PasteFromClipboard(kind, window);
     }
 }

@@ -1,5 +1,6 @@
 // The dial under the mouse: turning, the corner buttons, their timers, the capture.
 #include "tests/windows/host/dial_host.h"
+#include "tests/windows/support/input.h"
 
 #include <tuple>
 
@@ -19,7 +20,15 @@ using vorn::test::Scroll;
 
 using Scrolls = std::vector<Scroll>;
 
-class DialMouse : public DialHost {};
+class DialMouse : public DialHost {
+protected:
+    // A press that lasts. The pointer is there too: from elsewhere the system may tell the dial of
+    // it at any time, which takes the press off its button.
+    static void Hold(HWND dial, POINT point) {
+        vorn::test::MoveMouse(dial, point.x, point.y);
+        Press(dial, point);
+    }
+};
 
 // ---- Turning ----
 
@@ -159,7 +168,7 @@ TEST_F(DialMouse, CornerButtonsWithoutRoomStillHoldAndEnd) {
 
 TEST_F(DialMouse, HoldingAButtonRepeatsAfterASecond) {
     HWND dial = CreateAt(40);
-    Press(dial, kRightButton);
+    Hold(dial, kRightButton);
     EXPECT_EQ(TakeScrolls(), (Scrolls{{SB_LINEDOWN, 40}}));
     PumpFor(900);
     EXPECT_EQ(TakeScrolls(), Scrolls{});
@@ -204,7 +213,7 @@ std::size_t StepsAtSpeed(HWND dial, std::vector<Scroll>& scrolls, UINT speed) {
 
 TEST_F(DialMouse, RepeatsEveryAsManyMillisecondsAsTheKeyboardSpeedSays) {
     HWND dial = CreateAt(40);
-    Press(dial, kLeftButton);
+    Hold(dial, kLeftButton);
     const std::size_t at31 = StepsAtSpeed(dial, scrolls, 31);
     EXPECT_GE(at31, 5u);
     EXPECT_LE(at31, 14u) << "400 / 31 and one more";
@@ -471,6 +480,7 @@ std::vector<Path> Paths() {
                      [](HWND dial) { Click(dial, WM_MOUSEMOVE, kEast); }});
     for (const POINT point : {kLeftButton, kRightButton}) {
         const auto hold = [point](HWND dial) {
+            vorn::test::MoveMouse(dial, point.x, point.y);
             Click(dial, WM_LBUTTONDOWN, point);
             SendMessageA(dial, WM_TIMER, 1, 0);
         };

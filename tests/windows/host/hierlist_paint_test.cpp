@@ -74,16 +74,34 @@ TEST_F(HierListPaint, AnEmptyListIsItsBackground) {
 TEST_F(HierListPaint, ARowIsPictureAndText) {
     HWND list = Create();
     EXPECT_EQ(olbAddString(list, "Alpha"), 0);
-    EXPECT_EQ(olbAddString(list, "R&D"), 1);
+    EXPECT_EQ(olbAddString(list, "R/D"), 1);
     const Strip strip(217);
     const Pixels expected = Expected(kOutlineWidth, kOutlineHeight, [&](HDC context) {
         for (int row = 0; row < 2; ++row) {
             strip.Put(context, 0, row * kRowHeight + 1, 16, 16, 16);
         }
         Write(context, "Alpha", 19, 0);
-        Write(context, "R&D", 19, 1);
+        Write(context, "R/D", 19, 1);
     });
     EXPECT_EQ(Difference(expected, PixelsOf(list)), "");
+}
+
+TEST_F(HierListPaint, WhatFollowsAnAmpersandIsUnderlined) {
+    HWND list = Create();
+    olbEnableBitmaps(list, FALSE);
+    olbSetColor(list, OLBC_TEXT, RGB(0, 0, 0), FALSE);
+    olbAddString(list, "R&D");
+    olbAddString(list, "R&&D");
+    const Pixels expected = Expected(kOutlineWidth, kOutlineHeight, [&](HDC context) {
+        for (int row = 0; row < 2; ++row) {
+            RECT area = {0, row * kRowHeight, kOutlineWidth, (row + 1) * kRowHeight};
+            DrawTextA(context, row == 0 ? "R&D" : "R&&D", -1, &area, DT_SINGLELINE | DT_VCENTER);
+        }
+    });
+    EXPECT_EQ(Difference(expected, PixelsOf(list)), "");
+    olbDeleteString(list, 0);
+    olbInsertString(list, 0, "RD");
+    EXPECT_NE(Difference(expected, PixelsOf(list)), "") << "the line is missed";
 }
 
 TEST_F(HierListPaint, WithoutPicturesTextBeginsAtTheContent) {

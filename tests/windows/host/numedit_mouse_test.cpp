@@ -54,6 +54,28 @@ TEST_F(NumEditMouse, ButtonsStepByOne) {
     EXPECT_EQ(TextOf(edit), "-2.00") << "the second of a double click";
 }
 
+// 1000000 does not fit: the caret behind it is in view before anybody is told.
+TEST_F(NumEditMouse, ANarrowOneScrollsBeforeItTells) {
+    HWND edit = CreateSpinning();
+    SetWindowPos(edit, nullptr, 0, 0, 60, 24, SWP_NOMOVE | SWP_NOZORDER);
+    PutAndSelectEnd(edit, "1000000");
+    Select(edit, 0, 0);
+    std::vector<LRESULT> first;
+    onEvent = [&](HWND, const std::string&) {
+        first.push_back(SendMessageA(edit, EM_GETFIRSTVISIBLELINE, 0, 0));
+    };
+    notesPaints = true;
+    SendMessageA(edit, WM_KEYDOWN, VK_UP, 1);
+    notesPaints = false;
+    EXPECT_EQ(TakeEvents(),
+              (Events{"ask", "changed", "EN_UPDATE", "paint", "EN_CHANGE", "changed"}))
+        << "painted once";
+    ASSERT_EQ(first.size(), 6u);
+    EXPECT_EQ(first[0], 0);
+    EXPECT_GT(first[1], 0);
+    EXPECT_EQ(first, (std::vector<LRESULT>{0, first[1], first[1], first[1], first[1], first[1]}));
+}
+
 TEST_F(NumEditMouse, TheUpperHalfIsUp) {
     HWND edit = CreateSpinning();
     const struct {

@@ -309,15 +309,19 @@ TEST_F(NumEdit, BecomesReadOnlyAndDisabled) {
 }
 
 TEST_F(NumEdit, NullAsksAndTakesTheNumberAway) {
-    HWND edit = Create();
-    Put(edit, "12");
+    HWND edit = CreateFocused(NM_GENERAL, 0, 0, 40);
+    PutAndSelectEnd(edit, "1234567890");
+    Select(edit, 8, 10);
+    EXPECT_GT(SendMessageA(edit, EM_GETFIRSTVISIBLELINE, 0, 0), 0) << "it is narrow";
     EXPECT_FALSE(nmIsNull(edit));
     allowed = 0;
     EXPECT_EQ(nmSetNull(edit), 0);
     EXPECT_EQ(TakeEvents(), Events{"ask"});
-    EXPECT_EQ(TextOf(edit), "12") << "it was refused";
+    EXPECT_EQ(TextOf(edit), "1234567890") << "it was refused";
+    EXPECT_EQ(SelectionOf(edit), "8-10");
     allowed = 1;
     EXPECT_NE(SendMessageA(edit, VNMM_SETNULL, 0, 0), 0);
+    EXPECT_EQ(SendMessageA(edit, EM_GETFIRSTVISIBLELINE, 0, 0), 0);
     EXPECT_EQ(TakeEvents(), (Events{"ask", "changed"}));
     EXPECT_EQ(SendMessageA(edit, VNMM_ISNULL, 0, 0), 1);
     EXPECT_EQ(TextOf(edit), "");

@@ -18,6 +18,25 @@ LPARAM AddressOf(Number& number) {
     return reinterpret_cast<LPARAM>(&number);
 }
 
+// The host still finds the number before, and what it sets then is overwritten.
+TEST_F(NumEditValue, TellsThatATextIsCutBeforeItIsStored) {
+    HWND edit = Create();
+    Put(edit, "5");
+    SendMessageA(edit, EM_LIMITTEXT, 4, 0);
+    std::string found;
+    host.answer = [&](const vorn::test::Message& message) -> std::optional<LRESULT> {
+        if (message.message == WM_COMMAND && HIWORD(message.wParam) == VNMN_TEXTCUT) {
+            found = TextOf(edit);
+            host.answer = nullptr;
+            nmSetInteger(edit, 77);
+        }
+        return std::nullopt;
+    };
+    nmSetInteger(edit, 12345);
+    EXPECT_EQ(found, "5");
+    EXPECT_EQ(TextOf(edit), "123");
+}
+
 TEST_F(NumEditValue, IsReadByEveryFunction) {
     HWND edit = Create(NM_FLOATING, 2);
     Put(edit, "-2.9");

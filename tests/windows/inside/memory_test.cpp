@@ -1,4 +1,4 @@
-// Blocks: zeroed, many at once, both kinds, and none left.
+// Blocks: zeroed, many at once, and none left.
 #include "core/memory.h"
 #include "core/platform_win.h"
 
@@ -28,14 +28,6 @@ TEST(Blocks, AreZeroedAndWritable) {
 TEST(Blocks, OfNoBytesHaveAnAddress) {
     void* block = AllocBlock(nullptr, 0);
     EXPECT_NE(block, nullptr);
-    FreeBlock(nullptr, block);
-}
-
-TEST(Blocks, AreMovableAndLocked) {
-    void* block = AllocBlock(nullptr, 100);
-    HGLOBAL memory = GlobalHandle(block);
-    EXPECT_NE(memory, block) << "a fixed block is its own handle";
-    EXPECT_EQ(GlobalFlags(memory) & GMEM_LOCKCOUNT, 1u);
     FreeBlock(nullptr, block);
 }
 
@@ -73,10 +65,6 @@ TEST(Blocks, TwoHundredThousandAtOnce) {
         FreeBlock(nullptr, blocks[i]);
     }
     EXPECT_EQ(BlockCount(), before);
-    // The movable ones were counted back: new blocks are movable again.
-    void* block = AllocBlock(nullptr, 8);
-    EXPECT_NE(GlobalHandle(block), block);
-    FreeBlock(nullptr, block);
 }
 
 TEST(Blocks, CanBeToldToFail) {
