@@ -1,5 +1,7 @@
 #include "bench/windows/measure.h"
 
+#include "tests/windows/support/private_memory.h"
+
 #include <algorithm>
 #include <cstdio>
 #include <vector>
@@ -26,23 +28,10 @@ double Median(std::vector<double> values) {
     return values[values.size() / 2];
 }
 
-// What the process has of memory of its own, in use by its heaps or held ready for them.
-SIZE_T PrivateBytes() {
-    SIZE_T bytes = 0;
-    MEMORY_BASIC_INFORMATION region{};
-    for (const char* at = nullptr; VirtualQuery(at, &region, sizeof region) != 0;
-         at = static_cast<const char*>(region.BaseAddress) + region.RegionSize) {
-        if (region.State == MEM_COMMIT && region.Type == MEM_PRIVATE) {
-            bytes += region.RegionSize;
-        }
-    }
-    return bytes;
-}
-
 double BytesAnItem(int items, const std::function<void()>& fill) {
-    const SIZE_T before = PrivateBytes();
+    const SIZE_T before = vorn::test::PrivateBytes();
     fill();
-    return static_cast<double>(PrivateBytes() - before) / items;
+    return static_cast<double>(vorn::test::PrivateBytes() - before) / items;
 }
 
 std::function<void()> Repeated(int calls, const std::function<void()>& call) {

@@ -15,6 +15,7 @@ constexpr char kForeignClass[] = "VornTestForeign";
 constexpr int kForeignExtra = 48;
 
 constexpr UINT kPopUpSystemMenu = 0x0313; // the platform's own, which its headers leave unnamed
+constexpr UINT kControlColor = 0x0019;
 
 // Messages that carry pointers, or that the default procedure answers with a modal loop.
 constexpr std::array<UINT, 41> kLeftOut = {
@@ -71,6 +72,14 @@ bool IsLeftOut(UINT message) {
            std::find(kLeftOut.begin(), kLeftOut.end(), message) != kLeftOut.end();
 }
 
+// The handle of a device context is not a random one: where the system takes one for a metafile's,
+// it follows it without a look.
+bool CarriesContext(UINT message) {
+    return message == WM_PAINT || message == WM_ERASEBKGND || message == WM_ICONERASEBKGND ||
+           message == kControlColor ||
+           (message >= WM_CTLCOLORMSGBOX && message <= WM_CTLCOLORSTATIC);
+}
+
 } // namespace
 
 HWND CreateForeignWindow() {
@@ -94,31 +103,48 @@ HWND DestroyedWindow() {
     return window;
 }
 
-void SendRandomMessages(const std::function<HWND()>& create, std::uint32_t seed, int count,
-                        const std::vector<UINT>& leftOut) {
-    std::printf("random messages with seed %u\n", seed);
+void ChooseRandomMessages(const std::function<void(UINT, WPARAM, LPARAM)>& send, std::uint32_t seed,
+                          int count, const std::vector<UINT>& leftOut) {
     std::mt19937 random(seed);
     const std::array<LPARAM, 8> edges = {
         0, 1, -1, 100, 0x7FFFFFFF, static_cast<LONG>(0x80000000), 0x00050005, 0x7FFF7FFF};
+    const auto edge = [&] { return edges[random() % edges.size()]; };
     const auto parameter = [&] {
-        return random() % 2 == 0 ? edges[random() % edges.size()]
-                                 : static_cast<LPARAM>(static_cast<LONG>(random()));
+        return random() % 2 == 0 ? edge() : static_cast<LPARAM>(static_cast<LONG>(random()));
     };
-    HWND window = nullptr;
     for (int sent = 0; sent < count; ++sent) {
-        if (!IsWindow(window)) {
-            window = create();
-            ASSERT_NE(window, nullptr) << "nothing to send messages to";
-        }
         const UINT message = random() % (WM_USER + 513);
         if (!IsLeftOut(message) &&
             std::find(leftOut.begin(), leftOut.end(), message) == leftOut.end()) {
-            SendMessageA(window, message, static_cast<WPARAM>(parameter()), parameter());
+            const LPARAM first = CarriesContext(message) ? edge() : parameter();
+            send(message, static_cast<WPARAM>(first), parameter());
         }
         if (sent % 1000 == 0) {
             PumpMessages();
         }
     }
+}
+
+void SendRandomMessagesTo(HWND window, std::uint32_t seed, int count,
+                          const std::vector<UINT>& leftOut) {
+    const auto send = [window](UINT message, WPARAM wParam, LPARAM lParam) {
+        SendMessageA(window, message, wParam, lParam);
+    };
+    ChooseRandomMessages(send, seed, count, leftOut);
+}
+
+void SendRandomMessages(const std::function<HWND()>& create, std::uint32_t seed, int count,
+                        const std::vector<UINT>& leftOut) {
+    std::printf("random messages with seed %u\n", seed);
+    HWND window = nullptr;
+    const auto send = [&](UINT message, WPARAM wParam, LPARAM lParam) {
+        if (!IsWindow(window)) {
+            window = create();
+            ASSERT_NE(window, nullptr) << "nothing to send messages to";
+        }
+        SendMessageA(window, message, wParam, lParam);
+    };
+    ChooseRandomMessages(send, seed, count, leftOut);
     if (IsWindow(window)) {
         DestroyWindow(window);
     }

@@ -21,4 +21,10 @@ HWND DestroyedWindow();
 void SendRandomMessages(const std::function<HWND()>& create, std::uint32_t seed, int count,
                         const std::vector<UINT>& leftOut = {});
 
+// The same messages to one window, which may go meanwhile, and to whatever takes them.
+void SendRandomMessagesTo(HWND window, std::uint32_t seed, int count,
+                          const std::vector<UINT>& leftOut = {});
+void ChooseRandomMessages(const std::function<void(UINT, WPARAM, LPARAM)>& send, std::uint32_t seed,
+                          int count, const std::vector<UINT>& leftOut = {});
+
 } // namespace vorn::test

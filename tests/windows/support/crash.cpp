@@ -1,10 +1,14 @@
 // A fault in our code ends the program. Left to itself the system may swallow one inside a window
 // procedure that it called, and a test would pass that saw the control crash.
+#include "tests/windows/support/crash.h"
+
 #include <windows.h>
 #include <cstdio>
 #include <cstring>
 
 namespace {
+
+std::string deed = "nothing in particular";
 
 constexpr UINT kFaultStatus = 3;
 
@@ -44,8 +48,8 @@ LONG CALLBACK EndProgram(EXCEPTION_POINTERS* exception) {
     if (!IsFault(record.ExceptionCode) || !IsInOurCode(record.ExceptionAddress, name)) {
         return EXCEPTION_CONTINUE_SEARCH;
     }
-    std::printf("[  FAILED  ] fault 0x%08lx at %p in %s\n", record.ExceptionCode,
-                record.ExceptionAddress, name);
+    std::printf("[  FAILED  ] fault 0x%08lx at %p in %s, doing %s\n", record.ExceptionCode,
+                record.ExceptionAddress, name, deed.c_str());
     std::fflush(stdout);
     TerminateProcess(GetCurrentProcess(), kFaultStatus);
     return EXCEPTION_CONTINUE_SEARCH;
@@ -54,3 +58,7 @@ LONG CALLBACK EndProgram(EXCEPTION_POINTERS* exception) {
 [[maybe_unused]] const PVOID handler = AddVectoredExceptionHandler(1, EndProgram);
 
 } // namespace
+
+void vorn::test::NoteDeed(const std::string& what) {
+    deed = what;
+}

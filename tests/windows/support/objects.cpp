@@ -13,38 +13,31 @@ constexpr int kWarmUp = 50;
 // object left in so many cycles moves it further.
 constexpr int kCyclesAnObject = 10;
 constexpr std::size_t kProbes = 2000;
-
-struct Places {
-    int gdi;
-    int user;
-};
+constexpr std::size_t kWindowProbes = 200;
 
 // The index part of a handle.
 int IndexOf(const void* handle) {
     return LOWORD(reinterpret_cast<UINT_PTR>(handle));
 }
 
-// The highest place that many new objects at once get: they fill the gaps that freed ones left,
-// and each that stayed behind moves the last of them one up.
-int HighestGdiPlace() {
-    std::array<HBRUSH, kProbes> brushes{};
+// The highest place that some new objects get; all are gone again afterwards.
+template <class Object, std::size_t kCount, class Make, class Free>
+int HighestPlace(Make make, Free free) {
+    std::array<Object, kCount> objects{};
     int highest = 0;
-    for (HBRUSH& brush : brushes) {
-        brush = CreateSolidBrush(RGB(1, 2, 3));
-        highest = std::max(highest, IndexOf(brush));
+    for (Object& object : objects) {
+        object = make();
+        highest = std::max(highest, IndexOf(object));
     }
-    for (HBRUSH brush : brushes) {
-        DeleteObject(brush);
+    for (Object object : objects) {
+        free(object);
     }
     return highest;
 }
 
-Places FindPlaces() {
-    HWND window =
-        CreateWindowExA(0, "STATIC", "", WS_POPUP, 0, 0, 1, 1, nullptr, nullptr, nullptr, nullptr);
-    const Places places = {HighestGdiPlace(), IndexOf(window)};
-    DestroyWindow(window);
-    return places;
+HWND MakeWindow() {
+    return CreateWindowExA(0, "STATIC", "", WS_POPUP, 0, 0, 1, 1, nullptr, nullptr, nullptr,
+                           nullptr);
 }
 
 DWORD Counted(DWORD kind) {
@@ -53,11 +46,17 @@ DWORD Counted(DWORD kind) {
 
 } // namespace
 
+ObjectPlaces FindObjectPlaces() {
+    return {HighestPlace<HBRUSH, kProbes>([] { return CreateSolidBrush(RGB(1, 2, 3)); },
+                                          [](HBRUSH brush) { DeleteObject(brush); }),
+            HighestPlace<HWND, kWindowProbes>(MakeWindow, DestroyWindow)};
+}
+
 std::string ObjectsLeftBy(const std::function<void()>& cycle, int cycles) {
     for (int i = 0; i < kWarmUp; ++i) {
         cycle();
     }
-    const Places before = FindPlaces();
+    const ObjectPlaces before = FindObjectPlaces();
     const DWORD gdi = Counted(GR_GDIOBJECTS);
     const DWORD user = Counted(GR_USEROBJECTS);
     for (int i = 0; i < cycles; ++i) {
@@ -66,7 +65,7 @@ std::string ObjectsLeftBy(const std::function<void()>& cycle, int cycles) {
     if (Counted(GR_GDIOBJECTS) != gdi || Counted(GR_USEROBJECTS) != user) {
         return "the system counts more or fewer objects than before";
     }
-    const Places after = FindPlaces();
+    const ObjectPlaces after = FindObjectPlaces();
     if (std::abs(after.gdi - before.gdi) > cycles / kCyclesAnObject) {
         return "GDI objects stayed: " + std::to_string(after.gdi - before.gdi) + " places";
     }

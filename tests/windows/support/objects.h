@@ -6,6 +6,15 @@
 
 namespace vorn::test {
 
+// The places that the last of many new objects get in the system's tables. They fill the gaps that
+// freed ones left, so that each that stays behind moves the last of them one up.
+struct ObjectPlaces {
+    int gdi;
+    int user;
+};
+
+ObjectPlaces FindObjectPlaces();
+
 constexpr int kObjectCycles = 1000;
 
 // Runs the cycle a few times to warm up and then as often as told. Empty when the process's GDI and

@@ -18,7 +18,12 @@ LRESULT CALLBACK Spy::Procedure(HWND window, UINT message, WPARAM wParam, LPARAM
     if (spy->before) {
         spy->before(received);
     }
-    return !IsWindow(window) ? 0 : CallWindowProcA(procedure, window, message, wParam, lParam);
+    const std::optional<LRESULT> answered =
+        spy->answer ? spy->answer(received) : std::optional<LRESULT>();
+    if (answered || !IsWindow(window)) {
+        return answered.value_or(0);
+    }
+    return CallWindowProcA(procedure, window, message, wParam, lParam);
 }
 
 Spy::Spy(HWND window) : window_(window) {

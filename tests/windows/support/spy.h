@@ -5,6 +5,7 @@
 
 #include <windows.h>
 #include <functional>
+#include <optional>
 #include <vector>
 
 namespace vorn::test {
@@ -20,6 +21,9 @@ public:
 
     // Asked before the window gets a message.
     std::function<void(const Message&)> before;
+
+    // Asked after that; an empty answer leaves it to the window.
+    std::function<std::optional<LRESULT>(const Message&)> answer;
 
     // Messages of this number so far.
     std::vector<Message> Received(UINT message) const;

@@ -1,0 +1,192 @@
+// Hosts that destroy a window inside a call of theirs: each call in turn, until an operation makes
+// no more.
+#include "tests/windows/abuse/imports.h"
+#include "tests/windows/abuse/subjects.h"
+#include "tests/windows/abuse/trap.h"
+#include "tests/windows/support/crash.h"
+#include "tests/windows/support/spy.h"
+
+#include <algorithm>
+#include <gtest/gtest.h>
+#include <vorn32.h>
+
+namespace vorn::test {
+namespace {
+
+// What is different about the calls of a target.
+enum class Calls {
+    Usual,
+    OfParts,  // those that the parts get, which the control is made of, are calls too
+    WithKeys, // the parent answers keys and characters with a row
+};
+
+// What is destroyed, and in which calls.
+struct Target {
+    const char* name;
+    HWND (*find)(HWND control, HWND called);
+    LRESULT answer = 0; // the call's; those that have another one are questions only
+    Calls calls = Calls::Usual;
+};
+
+HWND TheControl(HWND control, HWND) {
+    return control;
+}
+
+constexpr Target kTargets[] = {
+    {"the control", TheControl},
+    {"its parent", [](HWND control, HWND) { return GetParent(control); }},
+    {"the focus", [](HWND, HWND) { return GetFocus(); }},
+    {"the control, answering 1", TheControl, 1},
+    {"the control, answering -1", TheControl, -1},
+    {"the control, after an answer to a key", TheControl, 0, Calls::WithKeys},
+    {"the control, in calls of its parts", TheControl, 0, Calls::OfParts},
+    {"the part that is called", [](HWND, HWND called) { return called; }, 0, Calls::OfParts},
+};
+
+constexpr LRESULT kRowForKeys = 2;
+
+// All in the first style, which tells the most, and in the others the control itself.
+bool Concerns(const Target& target, const Subject& subject, DWORD style) {
+    const std::string name = subject.className;
+    if (style != subject.styles[0]) {
+        return &target == &kTargets[0];
+    }
+    return target.calls == Calls::Usual ||
+           name == (target.calls == Calls::OfParts ? VORN_FONTSELECT_CLASS : VORN_HIERLIST_CLASS);
+}
+
+// An end that has begun is not begun anew.
+bool IsCall(UINT message, const Target& target) {
+    return message != WM_DESTROY && message != WM_NCDESTROY &&
+           (target.answer == 0 || IsControls(message) || IsAsked(message));
+}
+
+Trap TrapFor(const Target& target) {
+    Trap trap;
+    trap.act = [&target](HWND control, HWND called) {
+        DestroyWindow(target.find(control, called));
+    };
+    trap.isCall = [&target](UINT message) { return IsCall(message, target); };
+    trap.answer = target.answer;
+    trap.inParts = target.calls == Calls::OfParts;
+    if (target.calls == Calls::WithKeys) {
+        trap.answerToKeys = kRowForKeys;
+    }
+    return trap;
+}
+
+class Destroying : public testing::Test {
+protected:
+    WatchedImports watched;
+
+    static int RunFor(Stage& stage, const Subject& subject, DWORD style, const Target& target) {
+        const std::string deed = std::string("style ") + std::to_string(style) + " of a " +
+                                 subject.className + ", destroying " + target.name;
+        SCOPED_TRACE(deed);
+        NoteDeed("creation, " + deed);
+        const Trap trap = TrapFor(target);
+        int calls = RunThrough(
+            [&](int number) { return CreateTrapped(stage, subject, style, trap, number); });
+        for (const Operation& operation : OperationsOf(subject)) {
+            SCOPED_TRACE(operation.name);
+            NoteDeed(operation.name + ", " + deed);
+            calls += RunThrough([&](int number) {
+                return RunTrapped(stage, subject, style, operation, trap, number);
+            });
+        }
+        return calls;
+    }
+
+    static void RunAll(const char* className) {
+        const Subject& subject = SubjectOf(className);
+        Stage stage(subject);
+        int calls = 0;
+        for (const DWORD style : subject.styles) {
+            for (const Target& target : kTargets) {
+                if (Concerns(target, subject, style)) {
+                    calls += RunFor(stage, subject, style, target);
+                }
+            }
+        }
+        std::printf("%d calls\n", calls);
+    }
+};
+
+// What a class tells its parent or itself while the operations run.
+std::vector<Message> ToldBy(const Subject& subject) {
+    std::vector<Message> told;
+    Stage stage(subject);
+    for (const Operation& operation : OperationsOf(subject)) {
+        HWND control = stage.Create(subject.styles[0]);
+        Spy spy(control);
+        stage.host().answer = [&](const Message& message) -> std::optional<LRESULT> {
+            told.push_back(message);
+            return std::nullopt;
+        };
+        operation.run(control);
+        stage.Clear();
+        told.insert(told.end(), spy.messages.begin(), spy.messages.end());
+    }
+    return told;
+}
+
+TEST_F(Destroying, ComesToAllThatAClassTells) {
+    ForEachSubject([](const Subject& subject) {
+        const std::vector<Message> told = ToldBy(subject);
+        for (const Told& expected : subject.tells) {
+            const auto isIt = [&](const Message& message) {
+                return message.message == expected.message &&
+                       (expected.code < 0 || HIWORD(message.wParam) == expected.code);
+            };
+            EXPECT_TRUE(std::any_of(told.begin(), told.end(), isIt))
+                << expected.message << " with " << expected.code;
+        }
+    });
+}
+
+TEST_F(Destroying, InCallsOfAButton) {
+    RunAll(VORN_BUTTON_CLASS);
+}
+
+TEST_F(Destroying, InCallsOfANumericEdit) {
+    RunAll(VORN_NUMEDIT_CLASS);
+}
+
+TEST_F(Destroying, InCallsOfADateEdit) {
+    RunAll(VORN_DATEEDIT_CLASS);
+}
+
+TEST_F(Destroying, InCallsOfATimeEdit) {
+    RunAll(VORN_TIMEEDIT_CLASS);
+}
+
+TEST_F(Destroying, InCallsOfAFontSelector) {
+    RunAll(VORN_FONTSELECT_CLASS);
+}
+
+TEST_F(Destroying, InCallsOfACalendar) {
+    RunAll(VORN_CALENDAR_CLASS);
+}
+
+TEST_F(Destroying, InCallsOfADial) {
+    RunAll(VORN_DIAL_CLASS);
+}
+
+TEST_F(Destroying, InCallsOfASpinPad) {
+    RunAll(VORN_UDLR_CLASS);
+}
+
+TEST_F(Destroying, InCallsOfAPercentBar) {
+    RunAll(VORN_PERCENTBAR_CLASS);
+}
+
+TEST_F(Destroying, InCallsOfAnOutlineList) {
+    RunAll(VORN_HIERLIST_CLASS);
+}
+
+TEST_F(Destroying, InCallsOfAComboBox) {
+    RunAll(VORN_COMBOBOX_CLASS);
+}
+
+} // namespace
+} // namespace vorn::test
