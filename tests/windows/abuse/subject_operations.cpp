@@ -39,7 +39,7 @@ Operation Click(const std::string& name, int x, int y) {
 }
 
 // A press whose timer ticks a few times.
-Operation Hold(const std::string& name, int x, int y, std::vector<UINT_PTR> timers) {
+Operation Hold(const std::string& name, int x, int y, const std::vector<UINT_PTR>& timers) {
     return {name, [=](HWND window) {
                 SendMouse(window, WM_LBUTTONDOWN, x, y);
                 for (const UINT_PTR timer : timers) {

@@ -30,16 +30,15 @@ std::vector<UINT> Range(UINT first, UINT last) {
 
 std::vector<Told> Commands(const std::vector<int>& codes) {
     std::vector<Told> told;
+    told.reserve(codes.size());
     for (const int code : codes) {
         told.push_back({WM_COMMAND, code});
     }
     return told;
 }
 
-// Those of any edit, with codes and a message of its own.
+// Those of any edit, whose own messages have the same numbers, with codes and a message besides.
 std::vector<Told> EditTells(const std::vector<int>& codes, UINT message = VDTM_CHANGED) {
-    static_assert(VDTM_CHANGED == VNMM_CHANGED && VDTM_CHANGED == VTMM_CHANGED);
-    static_assert(VDTM_OKTOCHANGE == VNMM_OKTOCHANGE && VDTM_OKTOCHANGE == VTMM_OKTOCHANGE);
     const std::vector<Told> usual = Commands({EN_SETFOCUS, EN_KILLFOCUS, EN_UPDATE, EN_CHANGE});
     return With(With(usual, Commands(codes)),
                 {{VDTM_OKTOCHANGE, -1}, {VDTM_CHANGED, -1}, {message, -1}});
