@@ -18,10 +18,10 @@ inline const List kNothing = {};
 inline const List kBeeped = {{Beep}};
 
 // The notifications of a change, in order.
-inline const List kChanged = {
-    {Scroll}, {SendChanged}, {Notify, 0x400}, {Repaint}, {Notify, 0x300}, {PlaceCaret}};
-inline const List kStepped = {
-    {Scroll}, {SendChanged}, {Notify, 0x400}, {RepaintText}, {Notify, 0x300}, {PlaceCaret}};
+inline const List kChanged = {{Scroll},  {SendChanged},   {Notify, 0x400},
+                              {Repaint}, {Notify, 0x300}, {PlaceCaret}};
+inline const List kStepped = {{Scroll},      {SendChanged},   {Notify, 0x400},
+                              {RepaintText}, {Notify, 0x300}, {PlaceCaret}};
 
 inline List operator+(const List& first, const List& second) {
     List both = first;
