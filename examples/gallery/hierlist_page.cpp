@@ -32,7 +32,7 @@ void FillFolders(HWND list) {
     AddWith(list, root, "readme.txt", kText);
     HOLBITEM year = AddWith(list, letters, "1999", OLB_SORTFIRST);
     AddWith(list, letters, "to the bank.doc", kText);
-    AddWith(list, letters, "to R&D.doc", kText);
+    AddWith(list, letters, "to the club.doc", kText);
     AddWith(list, year, "january.doc", kText);
     AddWith(list, year, "february.doc", kText);
     AddWith(list, music, "score", kDocument);
