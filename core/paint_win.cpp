@@ -12,7 +12,7 @@ namespace {
 // at once, where new memory is a large part of what a list's repaint costs. Null while a paint has
 // it, and then another thread's paint makes one of its own.
 void* volatile keptPixels = nullptr;
-constexpr std::int64_t kMostKept = 512 * 512; // pixels, of 4 bytes each
+constexpr std::int64_t kMostKept = 262'144; // pixels, of 4 bytes each
 
 Size SizeOf(HBITMAP pixels) {
     BITMAP description{};
