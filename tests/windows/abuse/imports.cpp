@@ -1,6 +1,7 @@
 #include "tests/windows/abuse/imports.h"
 
 #include "tests/windows/abuse/fences.h"
+#include "tests/windows/support/import_table.h"
 
 #include <cstring>
 #include <map>
@@ -298,16 +299,9 @@ Import imports[] = {
     Replace("SetClipboardData", FillClipboard),
 };
 
-template <class Thing>
-Thing* At(HMODULE module, DWORD offset) {
-    return reinterpret_cast<Thing*>(reinterpret_cast<BYTE*>(module) + offset);
-}
-
-void Write(void** entry, void* value) {
-    DWORD protection = 0;
-    VirtualProtect(entry, sizeof *entry, PAGE_READWRITE, &protection);
-    *entry = value;
-    VirtualProtect(entry, sizeof *entry, protection, &protection);
+// The library keeps one bitmap from one paint to the next. Only a second one stayed behind.
+bool IsPixels(const char* giver) {
+    return std::strcmp(giver, "CreateDIBSection") == 0;
 }
 
 bool SoundsLikeAGift(const std::string& name) {
@@ -338,7 +332,7 @@ void WatchedImports::ReplaceEntry(const char* name, void** entry) {
         if (std::strcmp(import.name, name) == 0) {
             import.entry = entry;
             import.original = *entry;
-            Write(entry, import.replacement);
+            ReplaceImport(entry, import.replacement);
             return;
         }
     }
@@ -347,36 +341,18 @@ void WatchedImports::ReplaceEntry(const char* name, void** entry) {
     }
 }
 
-void WatchedImports::ReplaceEntriesOf(HMODULE module, const IMAGE_IMPORT_DESCRIPTOR& library) {
-    const auto* names = At<IMAGE_THUNK_DATA>(module, library.OriginalFirstThunk);
-    auto* entries = At<IMAGE_THUNK_DATA>(module, library.FirstThunk);
-    for (int i = 0; names[i].u1.AddressOfData != 0; ++i) {
-        if (!IMAGE_SNAP_BY_ORDINAL(names[i].u1.Ordinal)) {
-            const auto* import =
-                At<IMAGE_IMPORT_BY_NAME>(module, static_cast<DWORD>(names[i].u1.AddressOfData));
-            ReplaceEntry(reinterpret_cast<const char*>(import->Name),
-                         reinterpret_cast<void**>(&entries[i].u1.Function));
-        }
-    }
-}
-
 WatchedImports::WatchedImports() {
-    HMODULE module = GetModuleHandleA("VORN32.dll");
-    const auto* dos = At<IMAGE_DOS_HEADER>(module, 0);
-    const auto* headers = At<IMAGE_NT_HEADERS>(module, static_cast<DWORD>(dos->e_lfanew));
-    const auto& directory = headers->OptionalHeader.DataDirectory[IMAGE_DIRECTORY_ENTRY_IMPORT];
-    for (auto* library = At<IMAGE_IMPORT_DESCRIPTOR>(module, directory.VirtualAddress);
-         library->FirstThunk != 0; ++library) {
-        ReplaceEntriesOf(module, *library);
-    }
+    ForEachImport(GetModuleHandleA("VORN32.dll"),
+                  [this](const char* name, void** entry) { ReplaceEntry(name, entry); });
 }
 
 WatchedImports::~WatchedImports() {
     StopFailing();
-    Forget();
+    got.clear();
+    windows.clear();
     for (Import& import : imports) {
         if (import.entry != nullptr) {
-            Write(import.entry, import.original);
+            ReplaceImport(import.entry, import.original);
             import.entry = nullptr;
         }
     }
@@ -406,8 +382,9 @@ int WatchedImports::StopFailing() {
 
 std::string WatchedImports::Left() {
     std::string left;
+    int pixels = 0;
     for (const auto& [object, name] : got) {
-        left += std::string(name) + "\n";
+        left += IsPixels(name) && ++pixels == 1 ? "" : std::string(name) + "\n";
     }
     for (const auto& [window, name] : windows) {
         left += IsWindow(window) ? std::string(name) + "\n" : "";
@@ -416,7 +393,8 @@ std::string WatchedImports::Left() {
 }
 
 void WatchedImports::Forget() {
-    got.clear();
+    int pixels = 0;
+    std::erase_if(got, [&](const auto& entry) { return !IsPixels(entry.second) || ++pixels > 1; });
     windows.clear();
 }
 

@@ -33,8 +33,8 @@ public:
     // All succeed. Returns how many have failed.
     static int StopFailing();
 
-    // What the DLL has got and not given back, a line each; empty when there is nothing. Windows
-    // count for as long as they are there.
+    // What the DLL has got and not given back, a line each; empty when there is nothing but the one
+    // bitmap that it keeps for its next paint. Windows count for as long as they are there.
     static std::string Left();
 
     // Forgets what is there now, such as what lives as long as the process.
@@ -46,7 +46,6 @@ public:
     const std::vector<std::string>& unwatched() const { return unwatched_; }
 
 private:
-    void ReplaceEntriesOf(HMODULE module, const IMAGE_IMPORT_DESCRIPTOR& library);
     void ReplaceEntry(const char* name, void** entry);
 
     std::vector<std::string> unwatched_;
