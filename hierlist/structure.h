@@ -6,7 +6,7 @@
 //   everything below one item in one piece; shownChildren is how many of the children it holds;
 // - an open item has children and all of them are in the visible sequence;
 // - childCount is the number of linked children at most, and visibleCount and itemCount never fall
-// below 0.
+//   below 0.
 #pragma once
 
 #include "hierlist/item.h"

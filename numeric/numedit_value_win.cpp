@@ -31,12 +31,12 @@ LRESULT AskAndWrite(HWND window, double value, Written as) {
         return 0;
     }
     const LRESULT answer = SendMessageA(window, VNMM_OKTOCHANGE, 0, 0);
-    Record* record = RecordOf<Record>(window);
-    if (answer != 0 && record != nullptr && IsCutWritten(record->entry, value, as)) {
+    Record* record = answer != 0 ? RecordOf<Record>(window) : nullptr;
+    if (record != nullptr && IsCutWritten(record->entry, value, as)) {
         NotifyParent(window, kTextCut);
         record = RecordOf<Record>(window);
     }
-    if (answer != 0 && record != nullptr) {
+    if (record != nullptr) {
         PerformEdit(kNumberKind, window, Write(record->entry, value, as));
     }
     return answer;
