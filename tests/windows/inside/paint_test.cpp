@@ -11,6 +11,8 @@ namespace {
 
 constexpr COLORREF kLeft = RGB(255, 0, 0);
 constexpr COLORREF kRight = RGB(0, 0, 255);
+// A window that is shown takes its time.
+constexpr int kCycles = 200;
 
 // A window whose halves have two colours.
 class Halves {
@@ -75,16 +77,16 @@ TEST(OffscreenPaint, ShowsAPartInItsPlace) {
 }
 
 TEST(OffscreenPaint, KeepsNothingWhenTheLibraryEnds) {
-    EXPECT_EQ(test::ObjectsLeftBy([] {
-                  const Halves halves(100, 50);
-                  FreeKeptPixels();
-              }),
-              "");
+    const auto cycle = [] {
+        const Halves halves(100, 50);
+        FreeKeptPixels();
+    };
+    EXPECT_EQ(test::ObjectsLeftBy(cycle, kCycles), "");
 }
 
 // More pixels than are kept.
 TEST(OffscreenPaint, LeavesNoLargeBitmapBehind) {
-    EXPECT_EQ(test::ObjectsLeftBy([] { const Halves halves(800, 400); }), "");
+    EXPECT_EQ(test::ObjectsLeftBy([] { const Halves halves(800, 400); }, kCycles), "");
 }
 
 } // namespace
