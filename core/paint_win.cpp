@@ -60,13 +60,11 @@ void FreeKeptPixels() {
 OffscreenPaint::OffscreenPaint(HWND window) : window_(window) {
     HDC screen = BeginPaint(window, &paint_);
     const RECT& area = paint_.rcPaint;
-    const int width = area.right - area.left;
-    const int height = area.bottom - area.top;
-    if (screen == nullptr || width <= 0 || height <= 0) {
+    if (screen == nullptr || IsRectEmpty(&area)) {
         return;
     }
     memory_ = CreateCompatibleDC(screen);
-    bitmap_ = TakePixels({width, height});
+    bitmap_ = TakePixels({area.right, area.bottom});
     if (memory_ == nullptr || bitmap_ == nullptr) {
         DeleteDC(memory_);
         memory_ = nullptr;
@@ -74,8 +72,7 @@ OffscreenPaint::OffscreenPaint(HWND window) : window_(window) {
     }
     saved_ = SaveDC(memory_);
     SelectObject(memory_, bitmap_);
-    SetViewportOrgEx(memory_, -area.left, -area.top, nullptr);
-    SetBrushOrgEx(memory_, -area.left, -area.top, nullptr);
+    IntersectClipRect(memory_, area.left, area.top, area.right, area.bottom);
 }
 
 OffscreenPaint::~OffscreenPaint() {

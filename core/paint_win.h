@@ -7,12 +7,13 @@
 
 namespace vorn {
 
-// From its construction to the end of its scope a WM_PAINT is answered: drawing goes to a bitmap at
-// least as large as the part to repaint, in client coordinates, and is copied to the screen at the
-// end. There is anything in the bitmap before: all of the part has to be drawn. When there is no
-// memory for the bitmap, drawing goes to the screen. The window may be destroyed
-// in between, and already by its construction: the window is asked to paint its frame and erase its
-// background then, and a host that subclassed it may do anything.
+// From its construction to the end of its scope a WM_PAINT is answered: drawing goes to a bitmap
+// and is copied to the screen at the end. The bitmap's corner is that of the client area, so that
+// device coordinates, which clip regions and viewports are given in, are client coordinates too.
+// There is anything in it before: all of the part to repaint has to be drawn. When there is no
+// memory for the bitmap, drawing goes to the screen. The window may be destroyed in between, and
+// already by its construction: the window is asked to paint its frame and erase its background
+// then, and a host that subclassed it may do anything.
 class OffscreenPaint {
 public:
     explicit OffscreenPaint(HWND window);

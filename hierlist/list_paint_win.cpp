@@ -2,6 +2,7 @@
 
 #include "core/color_win.h"
 #include "core/gdi_win.h"
+#include "core/ground_win.h"
 #include "core/window_win.h"
 #include "hierlist/list_host_win.h"
 #include "hierlist/list_view_win.h"
@@ -19,42 +20,17 @@ bool Meet(const Rect& first, const RECT& second) {
            second.top < first.bottom;
 }
 
-// The brush that the parent gives; null when it gives none, or something else.
-HBRUSH AskBrush(HWND window, HDC context) {
-    const SavedContext saved(context);
-    const LRESULT answer =
-        SendMessageA(GetParent(window), WM_CTLCOLORLISTBOX, reinterpret_cast<WPARAM>(context),
-                     reinterpret_cast<LPARAM>(window));
-    auto* const brush = reinterpret_cast<HBRUSH>(answer);
-    return brush != nullptr && GetObjectType(brush) == OBJ_BRUSH ? brush : nullptr;
-}
-
-// The list's own background is the DC's brush: there is none to make, which could fail.
-Ground OwnGround(HDC context, const Record& record) {
-    const COLORREF color = ResolveColor(record.options.colors.background);
-    SetDCBrushColor(context, color);
-    return {static_cast<HBRUSH>(GetStockObject(DC_BRUSH)), color};
-}
-
-// The ground of a list that asks its parent. Runs host code.
+// The list's own ground, or the parent's when it is to be asked; nothing but that is taken from the
+// parent. Runs host code, after which the record may be gone.
 Ground GroundOf(HWND window, HDC context) {
     const Record* record = RecordOf<Record>(window);
-    const bool asks = HasOption(record->options, kOptionAskBackground);
-    HBRUSH brush = asks ? AskBrush(window, context) : nullptr;
-    record = RecordOf<Record>(window);
-    if (record == nullptr) {
-        return {};
+    const COLORREF own = ResolveColor(record->options.colors.background);
+    if (!HasOption(record->options, kOptionAskBackground)) {
+        return {own};
     }
-    Ground ground = OwnGround(context, *record);
-    if (brush != nullptr) {
-        ground.brush = brush;
-        LOGBRUSH description{};
-        if (GetObjectA(brush, sizeof description, &description) != 0 &&
-            description.lbStyle == BS_SOLID) {
-            ground.color = description.lbColor;
-        }
-    }
-    return ground;
+    const SavedContext saved(context);
+    HBRUSH answer = AskForBrush(window, context, WM_CTLCOLORLISTBOX);
+    return vorn::GroundOf(answer, context, own);
 }
 
 // A list without a caret has it in the first row that it shows, where the keys then begin.
@@ -108,9 +84,9 @@ void AskForRows(HWND window, HDC context, const Layout& layout, const RECT& area
 }
 
 // Draws the rows of an area. Runs no host code.
-void PaintOwnRows(HDC context, Record& record, const Layout& layout, const Ground& ground,
+void PaintOwnRows(HDC context, Record& record, const Layout& layout, COLORREF ground,
                   const RECT& area) {
-    const PictureSource pictures(context, record, ground.color);
+    const PictureSource pictures(context, record, ground);
     const RowTools tools = {context, record, ground, pictures.get(), MakeLinePen(record)};
     const Rect part = FromPlatform(area);
     for (PlacedRow placed = FirstRowIn(layout, part);
@@ -140,9 +116,10 @@ void PaintRows(HWND window, const OffscreenPaint& offscreen) {
         return;
     }
     GiveCaret(*record);
-    FillRect(context, &offscreen.area(), ground.brush);
+    FillWithGround(context, FromPlatform(offscreen.area()), ground);
     SelectObject(context, record->font);
     SetBkMode(context, TRANSPARENT);
+    SetTextColor(context, ResolveColor(record->options.colors.text));
 
     const Layout layout = LayoutOf(*record);
     if (RowCount(layout) == 0 && record->state.selection.hasFocus) {
@@ -151,7 +128,7 @@ void PaintRows(HWND window, const OffscreenPaint& offscreen) {
     if ((StyleOf(window) & kStyleOwnerDraw) != 0) {
         AskForRows(window, context, layout, offscreen.area());
     } else {
-        PaintOwnRows(context, *record, layout, ground, offscreen.area());
+        PaintOwnRows(context, *record, layout, ground.color, offscreen.area());
     }
 }
 

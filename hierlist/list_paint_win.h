@@ -7,12 +7,6 @@
 
 namespace vorn::hierlist {
 
-// What rows are painted on: a brush, and its colour where it has one.
-struct Ground {
-    HBRUSH brush = nullptr;
-    COLORREF color = 0;
-};
-
 // Paints what needs repainting. Runs host code.
 void PaintRows(HWND window, const OffscreenPaint& offscreen);
 
@@ -20,11 +14,12 @@ void PaintRows(HWND window, const OffscreenPaint& offscreen);
 // caller's to delete.
 HPEN MakeLinePen(const Record& record);
 
-// What a row is painted with: a ground that is already there, and what there is of the rest.
+// What a row is painted with: the colour of the ground that is already there, and what there is of
+// the rest.
 struct RowTools {
     HDC context;
     const Record& record;
-    Ground ground;
+    COLORREF ground;
     HDC pictures = nullptr; // the prepared ones
     HPEN lines = nullptr;
 };

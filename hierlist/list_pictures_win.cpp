@@ -6,6 +6,8 @@
 #include "hierlist/list_view_win.h"
 #include "hierlist/row_spans.h"
 
+#include <algorithm>
+
 namespace vorn::hierlist {
 namespace {
 
@@ -34,11 +36,15 @@ HBITMAP Exchange(void*& strip, HBITMAP bitmap) {
 }
 
 // What a part of a row is painted with for a parent, which has painted the ground: pictures are
-// laid on the colour that is at the point.
-RowTools ToolsFor(HDC context, const Record& record, Point point) {
-    const COLORREF there = GetPixel(context, point.x, point.y);
+// laid on the colour that is at the place's corner, or at the pixel next to it that is drawn at
+// all, since only a part of the row may need repainting, or be in the window.
+RowTools ToolsFor(HDC context, const Record& record, Point corner) {
+    RECT drawn{};
+    GetClipBox(context, &drawn);
+    const COLORREF there =
+        GetPixel(context, std::max<int>(corner.x, drawn.left), std::max<int>(corner.y, drawn.top));
     const COLORREF background = ResolveColor(record.options.colors.background);
-    return {context, record, {nullptr, there != CLR_INVALID ? there : background}};
+    return {context, record, there != CLR_INVALID ? there : background};
 }
 
 } // namespace

@@ -96,25 +96,30 @@ int TextWidth(HDC context, const Record& record, const char* text) {
     return width;
 }
 
-void WritePiece(HDC context, const char* text, int length, int left, int top) {
-    if (HasAmpersand(text, length)) {
-        RECT area = {left, top, left, top};
-        DrawTextA(context, text, length, &area, kTextFormat | DT_NOCLIP);
+// Texts stand as high as those that parents have the system centre in rows of their own. Where that
+// cannot be said, since half of the room above and below would be half a pixel, the system does it.
+void WritePiece(HDC context, const char* text, int length, const Rect& row, int left,
+                int fontHeight) {
+    const int room = Height(row) - fontHeight;
+    if (room % 2 != 0 || HasAmpersand(text, length)) {
+        RECT area = {left, row.top, row.right, row.bottom};
+        DrawTextA(context, text, length, &area, kTextFormat | DT_VCENTER | DT_NOCLIP);
     } else {
-        ExtTextOutA(context, left, top, 0, nullptr, text, static_cast<UINT>(length), nullptr);
+        ExtTextOutA(context, left, row.top + room / 2, 0, nullptr, text, static_cast<UINT>(length),
+                    nullptr);
     }
 }
 
 void WriteText(HDC context, const Record& record, const char* text, const Rect& row, int left) {
-    const int top = row.top + (Height(row) - record.fontHeight) / 2;
+    const int fontHeight = record.fontHeight;
     if (std::strchr(text, '\t') == nullptr) {
-        WritePiece(context, text, static_cast<int>(std::strlen(text)), left, top);
+        WritePiece(context, text, static_cast<int>(std::strlen(text)), row, left, fontHeight);
         return;
     }
     Pieces pieces(context, record, text);
     Piece piece;
     while (pieces.Take(piece) && left + piece.x < row.right) {
-        WritePiece(context, piece.text, piece.length, left + piece.x, top);
+        WritePiece(context, piece.text, piece.length, row, left + piece.x, fontHeight);
     }
 }
 
@@ -162,7 +167,7 @@ int PaintPicture(const RowTools& tools, const OlbItem* item, const Rect& rect, i
         Copy(tools, target, source);
     } else {
         DrawTransparentBitmap(tools.context, target, static_cast<HBITMAP>(choice.strip), source,
-                              tools.ground.color);
+                              tools.ground);
     }
     return target.right;
 }
@@ -191,7 +196,7 @@ void PaintBox(const RowTools& tools, const OlbItem* item, const Rect& row) {
         const auto skipped = static_cast<std::int32_t>(which) * kBoxPicture.width;
         Copy(tools, target, {record.prepared.boxesLeft + skipped, 0});
     } else {
-        DrawTransparentBitmap(tools.context, target, record.boxes[which], {}, tools.ground.color);
+        DrawTransparentBitmap(tools.context, target, record.boxes[which], {}, tools.ground);
     }
 }
 

@@ -27,13 +27,12 @@ edit::FieldInk AskForInk(HWND window, HDC context, const edit::FieldInk& own) {
     const SavedContext saved(context);
     SetTextColor(context, own.text);
     SetBkColor(context, own.background);
-    auto* brush = reinterpret_cast<HBRUSH>(SendMessageA(GetParent(window), WM_CTLCOLOREDIT,
-                                                        reinterpret_cast<WPARAM>(context),
-                                                        reinterpret_cast<LPARAM>(window)));
+    HBRUSH brush = AskForBrush(window, context, WM_CTLCOLOREDIT);
     if (IsSystemsAnswer(context, brush)) {
         return own;
     }
-    return {brush != nullptr ? GetBkColor(context) : own.background, GetTextColor(context), brush};
+    return {brush != nullptr ? GetBkColor(context) : own.background, GetTextColor(context),
+            GroundOf(brush, context, own.background)};
 }
 
 } // namespace

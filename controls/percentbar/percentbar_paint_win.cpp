@@ -3,6 +3,7 @@
 #include "core/color_win.h"
 #include "core/frames_win.h"
 #include "core/gdi_win.h"
+#include "core/ground_win.h"
 
 #include <algorithm>
 
@@ -116,23 +117,6 @@ void DrawTicks(HDC context, const Rect& bar) {
     }
 }
 
-// Asks the parent for the brush around the bar. The parent may change the context's text and
-// background colours too.
-HBRUSH AskForBackground(HWND window, HDC context) {
-    return reinterpret_cast<HBRUSH>(SendMessageA(GetParent(window), WM_CTLCOLORDLG,
-                                                 reinterpret_cast<WPARAM>(context),
-                                                 reinterpret_cast<LPARAM>(window)));
-}
-
-void FillBackground(HDC context, const Rect& client, HBRUSH brush, COLORREF color) {
-    if (brush == nullptr) {
-        FillWithColor(context, client, color);
-        return;
-    }
-    const RECT area = ToPlatform(client);
-    FillRect(context, &area, brush);
-}
-
 } // namespace
 
 Rect MeasureBar(HWND window, const Record& record) {
@@ -149,7 +133,8 @@ void Draw(HWND window, const OffscreenPaint& offscreen) {
     const ResolvedColors colors = Resolve(record->state.colors);
     const HDC context = offscreen.context();
     SetTextColor(context, colors.text);
-    const HBRUSH brush = AskForBackground(window, context);
+    // What the parent does to the context's colours counts, too.
+    HBRUSH answer = AskForBrush(window, context, WM_CTLCOLORDLG);
 
     record = RecordOf<Record>(window);
     if (record == nullptr) {
@@ -158,7 +143,7 @@ void Draw(HWND window, const OffscreenPaint& offscreen) {
     const COLORREF scaleColor = GetTextColor(context);
     const COLORREF outerColor = GetBkColor(context);
     const Rect bar = MeasureBar(window, *record);
-    FillBackground(context, ClientRect(window), brush, colors.background);
+    FillWithGround(context, ClientRect(window), GroundOf(answer, context, colors.background));
     DrawBar(context, *record, colors, bar);
     DrawBorder(context, record->state.borderStyle, {colors.shadow, colors.highlight, outerColor},
                bar);

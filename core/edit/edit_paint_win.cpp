@@ -26,20 +26,12 @@ struct Canvas {
 };
 
 FieldInk SelectedInk() {
-    return {GetSysColor(COLOR_HIGHLIGHT), GetSysColor(COLOR_HIGHLIGHTTEXT)};
+    const COLORREF background = GetSysColor(COLOR_HIGHLIGHT);
+    return {background, GetSysColor(COLOR_HIGHLIGHTTEXT), {background}};
 }
 
 std::uint32_t LengthOf(const Canvas& canvas) {
     return static_cast<std::uint32_t>(std::strlen(canvas.shown.text));
-}
-
-void FillField(HDC context, const Rect& rect, const FieldInk& ink) {
-    if (ink.brush == nullptr) {
-        FillWithColor(context, rect, ink.background);
-        return;
-    }
-    const RECT field = ToPlatform(rect);
-    FillRect(context, &field, ink.brush);
 }
 
 void WriteIn(HDC context, Point origin, const Rect& clip, UINT options, const char* text,
@@ -177,7 +169,8 @@ void PaintText(const Canvas& canvas, std::uint32_t alignment) {
 
 FieldInk FieldInkOf(const EditBody& body) {
     const FieldCodes codes = FieldCodesOf(body.colors, body.disabled, body.readOnly);
-    return {ResolveColor(codes.background), ResolveColor(codes.text)};
+    const COLORREF background = ResolveColor(codes.background);
+    return {background, ResolveColor(codes.text), {background}};
 }
 
 void PaintEdit(const EditKind& kind, HWND window, HDC context, const FieldInk& ink,
@@ -188,7 +181,7 @@ void PaintEdit(const EditKind& kind, HWND window, HDC context, const FieldInk& i
     }
     const Rect rightPart = RightPartOf(window, *body, kind);
     const Rect client = ClientRect(window);
-    FillField(context, {client.left, client.top, rightPart.left, client.bottom}, ink);
+    FillWithGround(context, {client.left, client.top, rightPart.left, client.bottom}, ink.ground);
     const ShownEdit edit(kind, *body);
     PaintText({context, *body, edit.shown(), TextAreaOf(window, *body, kind), ink, SelectedInk()},
               alignment);

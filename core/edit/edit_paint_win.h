@@ -2,14 +2,16 @@
 #pragma once
 
 #include "core/edit/edit_body_win.h"
+#include "core/ground_win.h"
 
 namespace vorn::edit {
 
-// The field's colours as they are painted.
+// The field's colours as they are painted. A parent may ask for a ground other than the background
+// of its texts.
 struct FieldInk {
     COLORREF background;
     COLORREF text;
-    HBRUSH brush = nullptr; // the background's, in place of its plain colour
+    Ground ground;
 };
 
 // Those that the edit itself has.

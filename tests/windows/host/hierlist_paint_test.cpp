@@ -104,6 +104,35 @@ TEST_F(HierListPaint, WhatFollowsAnAmpersandIsUnderlined) {
     EXPECT_NE(Difference(expected, PixelsOf(list)), "") << "the line is missed";
 }
 
+// Room above and below that is no even number of pixels is divided as the system does it.
+TEST_F(HierListPaint, TextsStandAsHighAsTheSystemCentresThem) {
+    HWND list = Create();
+    olbEnableBitmaps(list, FALSE);
+    olbAddString(list, "Alpha");
+    olbAddString(list, "a\tb");
+    const int stops[] = {16};
+    olbSetTabStops(list, 1, stops);
+    for (const int fontHeight : {11, 12, 13, 14, 15}) {
+        HFONT font = CreateFontA(fontHeight, 0, 0, 0, FW_NORMAL, FALSE, FALSE, FALSE, ANSI_CHARSET,
+                                 0, 0, 0, DEFAULT_PITCH, "Arial");
+        SendMessageA(list, WM_SETFONT, reinterpret_cast<WPARAM>(font), TRUE);
+        const int height = static_cast<int>(SendMessageA(list, LB_GETITEMHEIGHT, 0, 0));
+        const Pixels expected = Expected(kOutlineWidth, kOutlineHeight, [&](HDC context) {
+            SelectObject(context, font);
+            const auto write = [&](const char* text, int left, int row) {
+                RECT area = {left, row * height, kOutlineWidth, (row + 1) * height};
+                DrawTextA(context, text, -1, &area, DT_SINGLELINE | DT_VCENTER);
+            };
+            write("Alpha", 0, 0);
+            write("a", 0, 1);
+            write("b", 16 * LOWORD(GetDialogBaseUnits()) / 4, 1);
+        });
+        EXPECT_EQ(Difference(expected, PixelsOf(list)), "") << fontHeight;
+        SendMessageA(list, WM_SETFONT, 0, FALSE);
+        DeleteObject(font);
+    }
+}
+
 TEST_F(HierListPaint, WithoutPicturesTextBeginsAtTheContent) {
     HWND list = Create();
     EXPECT_EQ(olbEnableBitmaps(list, FALSE), 1);

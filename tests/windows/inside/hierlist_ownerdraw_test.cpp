@@ -231,6 +231,59 @@ TEST_F(HierListOwnerDraw, WhatTheParentDrawsStaysInTheRow) {
     EXPECT_EQ(pixels.At(5, 40), GetSysColor(COLOR_WINDOW));
 }
 
+// Regions and viewports are given in device coordinates, which parents take for those of the list.
+TEST_F(HierListOwnerDraw, DeviceCoordinatesAreTheListsWhateverIsRepainted) {
+    constexpr COLORREF kColor = RGB(9, 100, 200);
+    const auto fill = [](HDC context, const RECT& rect) {
+        SetDCBrushColor(context, kColor);
+        FillRect(context, &rect, static_cast<HBRUSH>(GetStockObject(DC_BRUSH)));
+    };
+    const auto byRegion = [&](const DRAWITEMSTRUCT& question) {
+        HRGN region = CreateRectRgnIndirect(&question.rcItem);
+        SelectClipRgn(question.hDC, region);
+        DeleteObject(region);
+        fill(question.hDC, {0, 0, kOutlineWidth, kOutlineHeight});
+    };
+    const auto byViewport = [&](const DRAWITEMSTRUCT& question) {
+        SetViewportOrgEx(question.hDC, question.rcItem.left, question.rcItem.top, nullptr);
+        fill(question.hDC, {0, 0, kOutlineWidth, test::kRowHeight});
+    };
+    HWND list = Create(LBS_OWNERDRAWFIXED);
+    for (std::uintptr_t i = 1; i <= 5; ++i) {
+        AddValue(list, i);
+    }
+    const RECT row = {0, 54, kOutlineWidth, 72};
+    for (const auto& way :
+         std::vector<std::function<void(const DRAWITEMSTRUCT&)>>{byRegion, byViewport}) {
+        draw = nullptr;
+        RedrawRows(list);
+        EXPECT_EQ(test::PixelsOf(list).Count(row, kColor), 0);
+        draw = way;
+        RedrawRow(list, 3);
+        EXPECT_EQ(test::PixelsOf(list).Count(row, kColor), kOutlineWidth * 18);
+    }
+    draw = nullptr;
+}
+
+TEST_F(HierListOwnerDraw, TextColorAndFontAreSelected) {
+    HWND list = Create(LBS_OWNERDRAWFIXED);
+    constexpr COLORREF kText = RGB(200, 0, 100);
+    olbSetColor(list, OLBC_TEXT, kText, FALSE);
+    int asked = 0;
+    draw = [&](const DRAWITEMSTRUCT& question) {
+        ++asked;
+        EXPECT_EQ(GetTextColor(question.hDC), kText);
+        EXPECT_EQ(GetBkMode(question.hDC), TRANSPARENT);
+        EXPECT_EQ(GetCurrentObject(question.hDC, OBJ_FONT), GetStockObject(SYSTEM_FONT));
+        SetTextColor(question.hDC, 0);
+    };
+    AddValue(list, 1);
+    AddValue(list, 2);
+    RedrawRows(list);
+    EXPECT_GE(asked, 3);
+    draw = nullptr;
+}
+
 TEST_F(HierListOwnerDraw, PartsAreDrawnForTheParentAsTheListWould) {
     // A list that draws itself, and one whose parent draws the same with the functions for it.
     const auto fill = [](HWND list) {
@@ -285,6 +338,35 @@ TEST_F(HierListOwnerDraw, PartsStandOnTheParentsGround) {
     test::Drawing(100, 18, ground, [&](HDC context) {
         EXPECT_EQ(olbPaintBitmap(list, context, 0, &row), 0) << "nothing to draw";
     });
+}
+
+// Of a row that is repainted in part, or that begins left of the window, the ground is taken where
+// it is drawn.
+TEST_F(HierListOwnerDraw, PartsStandOnTheGroundWhereTheRowIsDrawn) {
+    constexpr COLORREF kGround = RGB(1, 200, 3);
+    HWND list = Create(LBS_OWNERDRAWFIXED | LBS_HASSTRINGS);
+    draw = [](const DRAWITEMSTRUCT& question) {
+        SetDCBrushColor(question.hDC, kGround);
+        FillRect(question.hDC, &question.rcItem, static_cast<HBRUSH>(GetStockObject(DC_BRUSH)));
+        olbPaintBitmap(question.hwndItem, question.hDC, static_cast<int>(question.itemID),
+                       &question.rcItem);
+    };
+    olbAddString(list, "a");
+    const test::Pixels whole = test::PixelsOf(list);
+    for (const RECT part : {RECT{6, 0, 40, 18}, RECT{0, 7, 40, 18}, RECT{9, 9, 12, 12}}) {
+        InvalidateRect(list, &part, FALSE);
+        UpdateWindow(list);
+        EXPECT_EQ(test::Difference(whole, test::PixelsOf(list)), "");
+    }
+    In(list)->offset = 5;
+    RedrawRows(list);
+    const test::Pixels scrolled = test::PixelsOf(list);
+    for (int y = 0; y < 18; ++y) {
+        for (int x = 0; x < 20; ++x) {
+            ASSERT_EQ(scrolled.At(x, y), whole.At(x + 5, y)) << x << ", " << y;
+        }
+    }
+    draw = nullptr;
 }
 
 TEST_F(HierListOwnerDraw, TheParentComparesValues) {
