@@ -61,21 +61,21 @@ Actions Release(State& state) {
     return actions;
 }
 
-// Once another window has the capture, the button's release is that window's to see: the pad then
-// looks for itself whether the button is still down.
+// Without the capture the pad does not see the button's release: it then looks for itself whether
+// the button is still down.
 bool ReleasedElsewhere(const State& state, const Event& event) {
     return state.captureTaken && !event.buttonHeld;
 }
 
-// The capture that nobody has afterwards is the system's doing, which takes it from a pad that is
-// being disabled: that one goes on.
+// The system takes the capture, so that nobody has it afterwards, when it opens a message box, and
+// from a pad that is being disabled, which goes on. Which of them it is shows later.
 Actions CaptureChanged(State& state, const Event& event) {
     Actions actions;
-    if (event.captureOwner != CaptureOwner::Other) {
+    if (event.captureOwner == CaptureOwner::Self) {
         return actions;
     }
     state.captureTaken = state.captured;
-    if (ReleasedElsewhere(state, event)) {
+    if (event.captureOwner == CaptureOwner::Other && ReleasedElsewhere(state, event)) {
         AppendRest(actions, state);
     }
     return actions;
@@ -83,7 +83,7 @@ Actions CaptureChanged(State& state, const Event& event) {
 
 Actions Timer(State& state, const Event& event) {
     Actions actions;
-    if (ReleasedElsewhere(state, event)) {
+    if (!state.disabled && ReleasedElsewhere(state, event)) {
         AppendRest(actions, state);
         return actions;
     }

@@ -42,7 +42,7 @@ struct State {
     Direction direction = Direction::None;
     bool captured = false; // the mouse button went down on the pad and has not come up
     bool disabled = false;
-    bool captureTaken = false; // by another window, while captured: the release may go there
+    bool captureTaken = false; // while captured: the release may go unseen
 };
 
 enum class EventKind : std::uint8_t {

@@ -256,13 +256,30 @@ TEST(UdlrCapture, TakenWhileTheButtonIsHeldRepeatsUntilItComesUp) {
     EXPECT_EQ(Tick(state, true), List{});
 }
 
-TEST(UdlrCapture, GivenToNobodyOrToItselfChangesNothing) {
+TEST(UdlrCapture, GivenToItselfChangesNothing) {
     State state = Pressed();
-    for (const CaptureOwner owner : {CaptureOwner::Nobody, CaptureOwner::Self}) {
-        EXPECT_EQ(Do(state, {EventKind::CaptureChanged, 0, 0, false, owner}), List{});
-        EXPECT_TRUE(state.captured);
-    }
+    EXPECT_EQ(Do(state, {EventKind::CaptureChanged, 0, 0, false, CaptureOwner::Self}), List{});
+    EXPECT_TRUE(state.captured);
     EXPECT_EQ(Tick(state, false), (List{Kill(1), Start(2), Notification(100)}));
+}
+
+TEST(UdlrCapture, TakenByTheSystemRepeatsWhileTheButtonIsHeld) {
+    State state = Pressed();
+    EXPECT_EQ(Do(state, {EventKind::CaptureChanged, 0, 0, false, CaptureOwner::Nobody}), List{});
+    EXPECT_EQ(Tick(state, true), (List{Kill(1), Start(2), Notification(100)}));
+    EXPECT_EQ(Tick(state, false), (List{Kill(2), {Repaint}}));
+    EXPECT_FALSE(state.captured);
+}
+
+TEST(UdlrCapture, TakenFromADisabledPadChangesNothing) {
+    State state = Pressed();
+    Do(state, {EventKind::CaptureChanged, 0, 0, false, CaptureOwner::Nobody});
+    Event disabled{EventKind::Enable};
+    disabled.enabled = false;
+    Do(state, disabled);
+    EXPECT_EQ(Tick(state, false), (List{Kill(1), Start(2), Notification(100)}));
+    EXPECT_EQ(Tick(state, false), List{Notification(100)});
+    EXPECT_TRUE(state.captured);
 }
 
 TEST(UdlrCapture, TakenBetweenPressesIsNoConcern) {

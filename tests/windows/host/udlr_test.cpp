@@ -352,6 +352,36 @@ TEST_F(Udlr, BearsAHostThatDestroysItInANotification) {
 }
 
 // A host that shows a message in the notification: the release comes before the press is done.
+void CALLBACK CloseToldBox(HWND, UINT, UINT_PTR, DWORD) {
+    HWND box = FindWindowA("#32770", "Told");
+    if (box != nullptr) {
+        PostMessageA(box, WM_COMMAND, IDCANCEL, 0);
+    }
+}
+
+// As a message box takes the capture and is closed by a release that the pad does not see.
+TEST_F(Udlr, IsNotHeldAnyMoreAfterAMessageBoxInItsNotification) {
+    HWND pad = Create();
+    int told = 0;
+    host.answer = [&](const Message& message) -> std::optional<LRESULT> {
+        if (message.message == WM_COMMAND) {
+            ++told;
+            SetTimer(host.window(), 1, 20, CloseToldBox);
+            MessageBoxA(host.window(), "", "Told", MB_OK);
+            KillTimer(host.window(), 1);
+        }
+        return std::nullopt;
+    };
+    SendMouse(pad, WM_LBUTTONDOWN, 14, 3);
+    EXPECT_EQ(told, 1);
+    EXPECT_EQ(GetCapture(), nullptr);
+    PumpFor(900, [&] { return told > 1; });
+    EXPECT_EQ(told, 1) << "the first repeat would come after half a second";
+    EXPECT_FALSE(TakeTimer(pad, kDelay));
+    EXPECT_FALSE(TakeTimer(pad, kRepeat));
+    host.answer = nullptr;
+}
+
 TEST_F(Udlr, StartsNoTimerForAPressThatEndedInItsNotification) {
     HWND pad = Create();
     host.answer = [&](const Message& message) -> std::optional<LRESULT> {
