@@ -170,13 +170,16 @@ extern "C" WORD WINAPI olbSetFlags(HWND window, WORD kept, WORD added) {
     return added;
 }
 
-extern "C" void WINAPI olbChangeStyle(HWND window, WORD style) {
-    if (RecordOf<Record>(window) != nullptr) {
-        constexpr DWORD kLowHalf = 0xFFFF;
-        const DWORD changed = (StyleOf(window) & ~kLowHalf) | style;
-        ChangeStyle(window, ~0u, StyleWithBorder(changed, BorderFromStyle(changed)));
-        RenewFrame(window);
+extern "C" LONG WINAPI olbChangeStyle(HWND window, WORD style) {
+    if (RecordOf<Record>(window) == nullptr) {
+        return LB_ERR;
     }
+    constexpr DWORD kLowHalf = 0xFFFF;
+    const DWORD before = StyleOf(window);
+    const DWORD changed = (before & ~kLowHalf) | style;
+    ChangeStyle(window, ~0u, StyleWithBorder(changed, BorderFromStyle(changed)));
+    RenewFrame(window);
+    return static_cast<LONG>(before & kLowHalf);
 }
 
 extern "C" LONG WINAPI olbSetOwnerDraw(HWND window, int mode) {

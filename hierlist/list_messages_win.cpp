@@ -143,8 +143,7 @@ constexpr Answerer kAnswers[] = {
     AddUnderHandle,
     [](const Call& call) -> LRESULT { return olbAddString(call.window, call.Text()); },
     [](const Call& call) -> LRESULT {
-        olbChangeStyle(call.window, call.Short());
-        return 0;
+        return olbChangeStyle(call.window, call.Short());
     },
     DoWithRow<olbCloseItem>,
     WithRowPair<olbCopyChildren>,
@@ -286,8 +285,7 @@ constexpr Answerer kAnswers[] = {
         return olbSetLevelIndex(call.window, static_cast<int>(call.wParam), call.SecondNumber());
     },
     [](const Call& call) -> LRESULT {
-        olbSetPathSeparator(call.window, static_cast<char>(call.wParam));
-        return 0;
+        return olbSetPathSeparator(call.window, static_cast<char>(call.wParam));
     },
     WithFlag<olbSetProportionalScrollBars>,
     [](const Call& call) -> LRESULT {

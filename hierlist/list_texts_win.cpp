@@ -191,11 +191,14 @@ extern "C" LPSTR WINAPI olbGetFullPathEx(HWND window, HOLBITEM handle, LPSTR buf
     return buffer;
 }
 
-extern "C" void WINAPI olbSetPathSeparator(HWND window, char separator) {
+extern "C" LONG WINAPI olbSetPathSeparator(HWND window, char separator) {
     Record* record = RecordOf<Record>(window);
-    if (record != nullptr) {
-        record->outline.pathSeparator = separator;
+    if (record == nullptr) {
+        return LB_ERR;
     }
+    const auto before = static_cast<unsigned char>(record->outline.pathSeparator);
+    record->outline.pathSeparator = separator;
+    return before;
 }
 
 extern "C" void WINAPI olbGetPathSeparator(HWND window, LPSTR buffer) {

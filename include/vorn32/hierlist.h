@@ -357,12 +357,12 @@ VORNAPI LONG WINAPI olbSetItemHeightEx(HWND window, HOLBITEM handle, LONG height
 
 /*
  * The texts from the top down to the item with separators between them, in a buffer of 256
- * characters, which is the result. The separator is a backslash at first; olbGetPathSeparator
- * writes it and a NUL.
+ * characters, which is the result. The separator is a backslash at first; setting one results in the
+ * one before, and olbGetPathSeparator writes it and a NUL.
  */
 VORNAPI LPSTR WINAPI olbGetFullPath(HWND window, LONG row, LPSTR buffer);
 VORNAPI LPSTR WINAPI olbGetFullPathEx(HWND window, HOLBITEM handle, LPSTR buffer);
-VORNAPI void WINAPI olbSetPathSeparator(HWND window, char separator);
+VORNAPI LONG WINAPI olbSetPathSeparator(HWND window, char separator);
 VORNAPI void WINAPI olbGetPathSeparator(HWND window, LPSTR buffer);
 
 /* ---- Pictures ---- */
@@ -422,9 +422,9 @@ VORNAPI WORD WINAPI olbSetFlags(HWND window, WORD kept, WORD added);
 /*
  * Replaces the low 16 bits of the window's style (LBS_...), the border among them (OLBS_...;
  * without either the list has WS_BORDER's line if it had that before, else none). The window's size
- * stays.
+ * stays. Results in the 16 bits before.
  */
-VORNAPI void WINAPI olbChangeStyle(HWND window, WORD style);
+VORNAPI LONG WINAPI olbChangeStyle(HWND window, WORD style);
 
 /*
  * Has the parent draw the rows: 1 all of one height, for which the list asks itself, and so its

@@ -117,7 +117,7 @@ TEST_F(HierListLooks, StyleReplacesTheLowSixteenBits) {
     int reckoned = 0;
     {
         Spy spy(list);
-        olbChangeStyle(list, LBS_SORT | LBS_NOTIFY);
+        EXPECT_EQ(olbChangeStyle(list, LBS_SORT | LBS_NOTIFY), LBS_NOTIFY | LBS_MULTIPLESEL);
         reckoned = static_cast<int>(spy.Received(WM_NCCALCSIZE).size());
     }
     EXPECT_EQ(StyleOf(list), high | LBS_SORT | LBS_NOTIFY);

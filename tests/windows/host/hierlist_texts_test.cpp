@@ -164,7 +164,8 @@ TEST_F(HierListTexts, FormPaths) {
     char separator[3] = "??";
     olbGetPathSeparator(list, separator);
     EXPECT_STREQ(separator, "\\");
-    olbSetPathSeparator(list, '/');
+    EXPECT_EQ(olbSetPathSeparator(list, static_cast<char>(0xA6)), '\\');
+    EXPECT_EQ(olbSetPathSeparator(list, '/'), 0xA6);
     olbGetPathSeparator(list, separator);
     EXPECT_STREQ(separator, "/");
     EXPECT_EQ(PathOf(list, file), "C:\\/WINDOWS/a.txt");
