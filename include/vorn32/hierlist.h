@@ -12,7 +12,7 @@
  * and give handles, the others rows. The number -1 stands for no row and for failure.
  *
  * Functions answer -1 for a window that is no outline list; 0, FALSE or null where a bitmap, a
- * BOOL, a colour, flags or a coordinate is the answer.
+ * BOOL, a colour or flags are the answer.
  */
 #ifndef VORN32_HIERLIST_H
 #define VORN32_HIERLIST_H
@@ -54,7 +54,7 @@ typedef struct OLBITEM_* HOLBITEM;
  * OLBO_ASKBACKGROUND.
  */
 #define OLBO_PROPORTIONAL 0x01  /* proportional scroll bars; they always are */
-#define OLBO_AUTOOPEN 0x02      /* an item that is visible opens when it gets its first child */
+#define OLBO_AUTOOPEN 0x02      /* a visible item that is not locked opens when it gets a child */
 #define OLBO_LINES 0x04         /* the tree's dotted lines */
 #define OLBO_ASKBACKGROUND 0x08 /* the parent gives the background brush (WM_CTLCOLORLISTBOX) */
 #define OLBO_FULLSELECT 0x10    /* the highlight reaches to the right edge */
@@ -278,7 +278,10 @@ VORNAPI void WINAPI olbCloseAll(HWND window);
 VORNAPI LONG WINAPI olbLockItem(HWND window, LONG row, BOOL on);
 VORNAPI LONG WINAPI olbLockItemEx(HWND window, HOLBITEM item, BOOL on);
 
-/* Whether a visible item opens when it gets its first child. Setting results in what was before. */
+/*
+ * Whether a visible item that is not locked opens when a child is added; it does whenever one is
+ * inserted, moved or copied into it. Setting results in what was before.
+ */
 VORNAPI BOOL WINAPI olbSetAutoOpen(HWND window, BOOL on);
 VORNAPI BOOL WINAPI olbIsAutoOpen(HWND window);
 

@@ -7,9 +7,10 @@
  *
  * A parent may choose the colours around the bar: the control sends it WM_CTLCOLORDLG (device
  * context, control) at every paint, uses the brush that comes back, takes the context's text
- * colour for the scale and its background colour for the outer edge of the frames. A parent that
- * answers 0 and leaves the context alone leaves the control its own colours; DefWindowProc does
- * not: it answers a brush and sets colours.
+ * colour for the scale and its background colour for an edge of the frames: the raised one's outer
+ * upper and left, the sunken one's inner lower and right. A parent that answers 0 and leaves the
+ * context alone leaves the control its own colours; DefWindowProc does not: it answers a brush and
+ * sets colours.
  *
  * Every function returns 0 when the window is no percent bar. "Redraws" means at once; the result
  * of such a function is that of RedrawWindow.

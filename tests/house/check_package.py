@@ -2,6 +2,7 @@
 nothing that depends on this machine; import libraries for every function; links that lead
 somewhere.
 Usage: check_package.py ZIP"""
+import pathlib
 import posixpath
 import struct
 import subprocess
@@ -23,8 +24,11 @@ top = posixpath.basename(sys.argv[1]).removesuffix(".zip") + "/"
 names = [entry.filename.removeprefix(top) for entry in entries]
 
 
-def source_files():
-    """Name in the package to the file that it is a copy of."""
+def source_files(site):
+    """Name in the package to the file that it is a copy of; `site` has the site made anew."""
+    for path in site.rglob("*"):
+        if path.is_file():
+            yield f"doc/html/{path.relative_to(site).as_posix()}", path
     for path in tracked():
         if path.parts[0] in FOLDERS:
             yield "/".join([FOLDERS[path.parts[0]], *path.parts[1:]]), ROOT / path
@@ -41,8 +45,8 @@ def content(name):
     return archive.read(top + name)
 
 
-def wrong_files():
-    expected = dict(source_files())
+def wrong_files(site):
+    expected = dict(source_files(site))
     belong = set(expected) | GENERATED
     yield from (f"{name}: missing" for name in sorted(belong - set(names)))
     yield from (f"{name}: does not belong there" for name in sorted(set(names) - belong))
@@ -105,4 +109,7 @@ def broken_links():
                 yield f"{name}: no such file: {target}"
 
 
-finish([*wrong_files(), *wrong_form(), *wrong_machines(), *wrong_imports(), *broken_links()])
+with tempfile.TemporaryDirectory(prefix="vorn32-site-") as temporary:
+    subprocess.run(["/usr/bin/python3", ROOT / "tools/lib/site", temporary], check=True)
+    wrong = list(wrong_files(pathlib.Path(temporary)))
+finish([*wrong, *wrong_form(), *wrong_machines(), *wrong_imports(), *broken_links()])

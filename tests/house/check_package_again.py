@@ -16,6 +16,7 @@ os.umask(0o077)
 for preset in ("x86_64", "i686"):  # the other order
     subprocess.run(["cmake", "--install", ROOT / "build" / preset, "--prefix", folder],
                    stdout=subprocess.DEVNULL, check=True)
+subprocess.run(["/usr/bin/python3", ROOT / "tools/lib/site", folder / "doc/html"], check=True)
 for number, path in enumerate(sorted(folder.rglob("*"), reverse=True)):
     os.utime(path, (1_000_000_000 + 86_400 * number,) * 2)
 again = work / "again.zip"

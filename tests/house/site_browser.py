@@ -29,6 +29,8 @@ return {
     nameless: all("a").filter(link => !link.textContent.trim() && !link.ariaLabel &&
                                       !link.querySelector("img[alt]")).map(link => link.href),
     pictures: all("img").map(image => ({address: image.src, alt: image.alt,
+                                        said: ["width", "height"].map(name => image.getAttribute(name)),
+                                        natural: [image.naturalWidth, image.naturalHeight].map(String),
                                         loaded: image.complete && image.naturalWidth > 0})),
     headings: all("h1, h2, h3, h4, h5, h6").map(heading => ({
         level: Number(heading.localName[1]), text: heading.textContent})),
@@ -110,6 +112,9 @@ def missing_parts(page):
     for picture in page["pictures"]:
         if not picture["loaded"]:
             yield f"the picture {picture['address']} does not load"
+        elif picture["said"] != picture["natural"]:
+            yield (f"the picture {picture['address']} is said to be {picture['said']} pixels large "
+                   f"and is {picture['natural']}")
         if not picture["alt"].strip():
             yield f"the picture {picture['address']} has no alternative text"
     level = 0

@@ -8,7 +8,8 @@ package_path() {
   printf '%s\n' "$build/package/VORN32-${version:?}.zip"
 }
 
-# Installs what the builds i686 and x86_64 have built into a folder and writes it as a zip.
+# Installs what the builds i686 and x86_64 have built into a folder, makes the site of the documentation
+# there, and writes all as a zip.
 write_package() {
   local zip folder preset
   zip=$(package_path) || return 1
@@ -17,6 +18,7 @@ write_package() {
   for preset in i686 x86_64; do
     cmake --install "$build/$preset" --prefix "$folder" || return 1
   done
+  /usr/bin/python3 "$root/tools/lib/site" "$folder/doc/html" || return 1
   python3 "$root/tools/lib/write_zip.py" "$folder" "$zip" || return 1
   rm -rf "$folder"
 }

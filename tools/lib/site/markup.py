@@ -13,8 +13,11 @@ from markdown.treeprocessors import Treeprocessor
 NOT_LINKED_IN = {"a", "pre", "h1", "h2", "h3", "h4", "h5", "h6"}
 
 
-def png_size(file):
-    """Width and height, which every PNG has at the same place."""
+def picture_size(file):
+    """Width and height: a PNG has them at the same place always, an SVG as it says itself."""
+    if file.suffix == ".svg":
+        drawing = ElementTree.parse(file).getroot()
+        return int(drawing.get("width")), int(drawing.get("height"))
     return struct.unpack(">II", file.read_bytes()[16:24])
 
 
@@ -46,7 +49,7 @@ class Linker(Treeprocessor):
 
     def picture(self, image):
         file = self.site.picture(image.get("src"), self.page)
-        width, height = png_size(file)
+        width, height = picture_size(file)
         image.set("width", str(width))
         image.set("height", str(height))
 

@@ -10,7 +10,7 @@ import shutil
 import jinja2
 
 from headers import read_headers
-from markup import png_size, render
+from markup import picture_size, render
 from names import SINGULARS, all_names, page_of
 from prose import Prose
 from reference import Reference
@@ -192,7 +192,7 @@ class Builder:
         cards = []
         for stem in CONTROLS:
             page = self.site.pages[stem]
-            width, height = png_size(self.site.picture(f"pictures/{stem}.png", "index.html"))
+            width, height = picture_size(self.site.picture(f"pictures/{stem}.png", "index.html"))
             first = re.sub(r"^Window class .*?\. ", "", " ".join(page.opening.split()), count=1)
             sentence, _ = render(re.match(r".*?\.(?= |$)", first)[0], self.site, "index.html")
             cards.append({"address": f"{stem}.html", "title": page.title, "text": sentence,
