@@ -31,10 +31,10 @@ def go_handles(source):
 
 
 def go_records(source):
-    """Name, fields (name, type), whether it is packed, which Go's never are."""
+    """Name, fields (name, type), the alignment that it is packed to, which Go's never are."""
     for name, body in re.findall(r"^type (\w+) struct \{\n(.*?)^\}", source,
                                  re.MULTILINE | re.DOTALL):
-        yield name, [line.split() for line in body.splitlines()], False
+        yield name, [line.split() for line in body.splitlines()], ""
 
 
 def go_functions(source):
@@ -58,9 +58,9 @@ def ada_handles(source):
 
 
 def ada_records(source):
-    pattern = r"type (\w+) is record(.*?)end record with Convention => C(, Pack)?;"
-    for name, body, packed in re.findall(pattern, source, re.DOTALL):
-        yield name, re.findall(r"(\w+)\s*: (.+);", body), bool(packed)
+    pattern = r"type (\w+) is record(.*?)end record with Convention => C(?:, Alignment => (\d+))?;"
+    for name, body, alignment in re.findall(pattern, source, re.DOTALL):
+        yield name, re.findall(r"(\w+)\s*: (.+?)(?: := .+)?;", body), alignment
 
 
 def ada_functions(source):
@@ -98,11 +98,11 @@ def assert_handles(handles):
 
 def assert_records(language, records):
     """Go cannot pack: what follows the last field of a record may be there in excess."""
-    for name, fields, packed in records:
+    for name, fields, alignment in records:
         types = [f"__typeof__({c_types(language, kind)[0]})" for _, kind in fields]
         body = "".join(f"{kind} {field[0]}; " for kind, field in zip(types, fields))
         copy = f"struct copy_{name}"
-        yield f"{copy} {{ {body}}}{' __attribute__((packed))' if packed else ''};"
+        yield from (f"#pragma pack({alignment})", f"{copy} {{ {body}}};", "#pragma pack()")
         size = f"sizeof({copy})"
         if language == "go":
             last = fields[-1][0]
