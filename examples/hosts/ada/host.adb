@@ -1,4 +1,4 @@
---  A window with the controls of VORN32. It does to each control what a user or a program would do,
+--  A window with all controls of VORN32. It does to each control what a user or a program would do,
 --  prints what it is told and reads back, and ends with 0 when that is as expected.
 --
 --  Built with GNAT for MinGW, and run with VORN32.dll of the same architecture beside it:

@@ -1,7 +1,7 @@
 /*
- * A dialog from a template (dialog.rc) with the library's controls. It does to each what a user or
- * a program would do, prints what it is told and reads back, and ends with 0 when that is as
- * expected.
+ * A dialog from a template (dialog.rc) with all of the library's controls. It does to each what a
+ * user or a program would do, prints what it is told and reads back, and ends with 0 when that is
+ * as expected.
  */
 #include "dialog.h"
 

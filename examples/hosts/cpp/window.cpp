@@ -1,6 +1,6 @@
-// A window with the library's controls, with a function for each notification. It does to each
-// control what a user or a program would do, prints what it is told and reads back, and ends with 0
-// when that is as expected.
+// A window with all of the library's controls, with a function for each notification. It does to
+// each control what a user or a program would do, prints what it is told and reads back, and ends
+// with 0 when that is as expected.
 #include <array>
 #include <cstdio>
 #include <cstring>

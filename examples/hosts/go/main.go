@@ -1,4 +1,4 @@
-// A window with the controls of VORN32, by nothing but system calls. It does to each control what a user
+// A window with all controls of VORN32, by nothing but system calls. It does to each control what a user
 // or a program would do, prints what it is told and reads back, and ends with 0 when that is as expected.
 //
 // Built anywhere, without a C compiler, and run with VORN32.dll of the same architecture beside it:
