@@ -1,6 +1,6 @@
 """The hosts in Go and Ada declare what the headers do: constants, records, handles and functions
 with the types of their arguments and results. The compilers for both architectures judge, by a file
-of assertions that is made from the declarations."""
+of assertions that is made from the declarations. Every host names every window class."""
 import itertools
 import re
 
@@ -150,9 +150,23 @@ def check(language, file, platform_file, constants, handles, records, functions,
         yield from compile_errors(lines, architecture)
 
 
+def unused_classes(declaring):
+    header = (ROOT / "include/vorn32/library.h").read_text(encoding="utf-8")
+    classes = re.findall(r"^#define (VORN_\w+_CLASS)", header, re.MULTILINE)
+    hosts = [folder for folder in sorted(HOSTS.iterdir()) if folder.is_dir()]
+    if not classes or not hosts:
+        yield f"examples/hosts: {len(hosts)} hosts for {len(classes)} classes"
+    for folder in hosts:
+        source = "".join(file.read_text(encoding="utf-8") for file in folder.iterdir()
+                         if file.name not in declaring)
+        yield from (f"examples/hosts/{folder.name}: nothing is of the class {name}"
+                    for name in classes if not re.search(rf"\b{name}\b", source))
+
+
 checks = [("go", "vorn32.go", "win32.go", go_constants, go_handles, go_records, go_functions,
            (r"(?m)^\t\w+\s*= ", r"(?m)^type\b", r"\bNewProc\b")),
           ("ada", "vorn32.ads", "win32.ads", ada_constants, ada_handles, ada_records, ada_functions,
            (r": constant\b", r"\btype \w+ is\b", r"\bExternal_Name\b"))]
-finish([f"examples/hosts/{arguments[0]}/{arguments[1]}: {finding}"
-        for arguments in checks for finding in check(*arguments)])
+findings = [f"examples/hosts/{arguments[0]}/{arguments[1]}: {finding}"
+            for arguments in checks for finding in check(*arguments)]
+finish(findings + [*unused_classes([arguments[1] for arguments in checks])])
