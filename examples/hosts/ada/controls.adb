@@ -77,7 +77,7 @@ package body Controls is
         (Procedure_Of => Procedure_Of_Host'Access, Class_Name => Name'Address, others => <>);
       Ignored_Atom : constant WORD := RegisterClassA (Class'Access);
    begin
-      Host := Create ("AdaHost", "Controls in Ada", WS_OVERLAPPEDWINDOW, 20, 20, 700, 560, 0);
+      Host := Create ("AdaHost", "Controls in Ada", WS_OVERLAPPEDWINDOW, 20, 20, 920, 560, 0);
       Ignored_Bool := ShowWindow (Host, SW_SHOW);
    end Create_Host;
 

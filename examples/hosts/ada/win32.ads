@@ -12,15 +12,28 @@ package Win32 is
    subtype int is Interfaces.Integer_32;
    subtype WORD is Interfaces.Unsigned_16;
    subtype DWORD is Interfaces.Unsigned_32;
+   subtype double is Interfaces.IEEE_Float_64;
    subtype LPSTR is System.Address;
    subtype LPCSTR is System.Address;
    type WPARAM is mod 2 ** Standard'Address_Size;
    type LPARAM is range
      -(2 ** (Standard'Address_Size - 1)) .. 2 ** (Standard'Address_Size - 1) - 1;
    subtype LRESULT is LPARAM;
+   subtype LONG_PTR is LPARAM;
+
+   type DWORD_Array is array (Positive range <>) of DWORD;
+
+   type RECT is record
+      Left   : LONG := 0;
+      Top    : LONG := 0;
+      Right  : LONG := 0;
+      Bottom : LONG := 0;
+   end record with Convention => C;
 
    No_Window : constant HWND := System.Null_Address;
 
+   WM_SETTEXT       : constant := 16#000C#;
+   WM_KEYDOWN       : constant := 16#0100#;
    WM_CHAR          : constant := 16#0102#;
    WM_COMMAND       : constant := 16#0111#;
    WM_VSCROLL       : constant := 16#0115#;
@@ -36,14 +49,19 @@ package Win32 is
    WS_CHILD            : constant := 16#40000000#;
    WS_VISIBLE          : constant := 16#10000000#;
    WS_TABSTOP          : constant := 16#00010000#;
+   WS_VSCROLL          : constant := 16#00200000#;
    CBS_DROPDOWNLIST    : constant := 16#0003#;
+   LBS_NOTIFY          : constant := 16#0001#;
 
-   CBN_SETFOCUS : constant := 3;
-   SB_LINEDOWN  : constant := 1;
-   MK_LBUTTON   : constant := 1;
-   SW_SHOW      : constant := 5;
-   LF_FACESIZE  : constant := 32;
-   COLOR_3DFACE : constant := 15;
+   CBN_SETFOCUS  : constant := 3;
+   EN_CHANGE     : constant := 16#0300#;
+   LBN_SELCHANGE : constant := 1;
+   SB_LINEDOWN   : constant := 1;
+   MK_LBUTTON    : constant := 1;
+   VK_UP         : constant := 16#26#;
+   SW_SHOW       : constant := 5;
+   LF_FACESIZE   : constant := 32;
+   COLOR_3DFACE  : constant := 15;
 
    type Window_Procedure is access function
      (Window : HWND; Message : UINT; W : WPARAM; L : LPARAM) return LRESULT

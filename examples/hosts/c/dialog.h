@@ -11,5 +11,9 @@
 #define COMBO_ID 105
 #define FONT_ID 106
 #define PAD_ID 107
+#define NUMBER_ID 108
+#define DATE_ID 109
+#define TIME_ID 110
+#define LIST_ID 111
 
 #endif

@@ -1,8 +1,9 @@
-// A window with the library's controls, with a function for each notification. It does to each
-// control what a user or a program would do, prints what it is told and reads back, and ends with 0
-// when that is as expected.
+// A window with all of the library's controls, with a function for each notification. It does to
+// each control what a user or a program would do, prints what it is told and reads back, and ends
+// with 0 when that is as expected.
 #include <array>
 #include <cstdio>
+#include <cstring>
 #include <functional>
 #include <map>
 #include <string>
@@ -83,12 +84,28 @@ private:
 
 int failures = 0;
 
+// What a line of the output ends with.
+const char* Judge(bool asExpected) {
+    failures += asExpected ? 0 : 1;
+    return asExpected ? "" : ", which is not as expected";
+}
+
 void Expect(const char* what, LONG actual, LONG expected) {
-    std::printf("%s: %ld%s\n", what, actual,
-                actual == expected ? "" : ", which is not as expected");
-    if (actual != expected) {
-        ++failures;
-    }
+    std::printf("%s: %ld%s\n", what, actual, Judge(actual == expected));
+}
+
+void ExpectNumber(const char* what, double actual, double expected) {
+    std::printf("%s: %g%s\n", what, actual, Judge(actual == expected));
+}
+
+void ExpectText(const char* what, const std::string& actual, const std::string& expected) {
+    std::printf("%s: %s%s\n", what, actual.c_str(), Judge(actual == expected));
+}
+
+template <typename Record>
+void ExpectSame(const char* what, const Record& actual, const Record& expected) {
+    const bool same = std::memcmp(&actual, &expected, sizeof(Record)) == 0;
+    std::printf("%s: %d%s\n", what, same, Judge(same));
 }
 
 void Click(HWND window, int x, int y) {
@@ -169,7 +186,7 @@ void UseComboBox(Host& host, HWND button) {
     SendMessageA(combo, CB_SETCURSEL, 1, 0);
     std::array<char, 20> text = {};
     SendMessageA(combo, CB_GETLBTEXT, 1, reinterpret_cast<LPARAM>(text.data()));
-    Expect("text of the combo box is Pear", std::string(text.data()) == "Pear", TRUE);
+    ExpectText("text of the combo box", text.data(), "Pear");
     SetFocus(button);
     SetFocus(combo);
     Expect("focuses of the combo box", focuses, 1);
@@ -198,6 +215,187 @@ void UsePad(Host& host) {
     host.OnCommand(pad, VUDN_UP, nullptr);
 }
 
+NmEditParams UpTo5000() {
+    NmEditParams params = {};
+    params.formatKind = NM_FLOATING_GROUPED;
+    params.rangeCheck = TRUE;
+    params.decimalDigits = 2;
+    params.minValue = -1000.5;
+    params.maxValue = 5000.25;
+    params.thousandChar = '\'';
+    params.decimalChar = ',';
+    params.leadingZero = TRUE;
+    return params;
+}
+
+// Functions notify of nothing, a text that is set does.
+void UseNumericEdit(Host& host) {
+    int changes = 0;
+    HWND edit =
+        host.Add(VORN_NUMEDIT_CLASS, "0", WS_TABSTOP | VNMS_SUNKEN | VNMS_SPIN, {350, 60, 450, 86});
+    host.OnCommand(edit, EN_CHANGE, [&] { ++changes; });
+    const NmEditParams params = UpTo5000();
+    NmEditParams kept = {};
+    nmSetEditParams(edit, &params);
+    nmGetEditParams(edit, &kept);
+    ExpectSame("format and range are those set", kept, params);
+
+    double number = 1234.5;
+    nmSetDouble(edit, &number);
+    number = 0;
+    nmGetDouble(edit, &number);
+    ExpectNumber("number", number, 1234.5);
+    std::array<char, 64> text = {};
+    nmGetLastGoodNumber(edit, text.data());
+    ExpectText("number as text", text.data(), "1234,50");
+    nmSetInteger(edit, -321);
+    Expect("integer", nmGetInteger(edit), -321);
+    number = 100000;
+    nmSetDouble(edit, &number);
+    nmGetDouble(edit, &number);
+    ExpectNumber("number, at most the maximum", number, 5000.25);
+    Expect("changes by functions", changes, 0);
+    SendMessageA(edit, WM_SETTEXT, 0, reinterpret_cast<LPARAM>("7.25"));
+    nmGetDouble(edit, &number);
+    ExpectNumber("number of the text", number, 7.25);
+    Expect("changes of the number", changes, 1);
+    DestroyWindow(edit);
+}
+
+// 05.03.2007, in this layout.
+DtEditParams DayMonthYear() {
+    DtEditParams params = {};
+    params.size = sizeof params;
+    params.setDate = TRUE;
+    params.year = 2007;
+    params.month = 3;
+    params.day = 5;
+    params.separator = '.';
+    params.monthLeadingZero = TRUE;
+    params.dayLeadingZero = TRUE;
+    params.fourDigitYear = TRUE;
+    params.kinds[0] = DT_DAY;
+    params.kinds[1] = DT_MONTH;
+    params.kinds[2] = DT_YEAR;
+    return params;
+}
+
+void UseDateEdit(Host& host) {
+    int changes = 0;
+    HWND edit = host.Add(VORN_DATEEDIT_CLASS, "", WS_TABSTOP | VDTS_SUNKEN | VDTS_CALENDAR,
+                         {460, 60, 570, 86});
+    host.OnCommand(edit, EN_CHANGE, [&] { ++changes; });
+    const DtDate leapDay = {2, 29, 2000};
+    DtDate date = {};
+    dtSetDate(edit, &leapDay);
+    // A hundred years, 24 of them leap years, and 59 days.
+    Expect("days from 1 January 1900", dtGetDate(edit, &date), 36583);
+    ExpectSame("the date is that set", date, leapDay);
+
+    DtEditParams params = DayMonthYear();
+    std::array<char, 32> text = {};
+    dtSetEditParams(edit, &params);
+    ExpectText("date as text", dtGetDateString(edit, text.data()), "05.03.2007");
+    params = {};
+    params.size = sizeof params;
+    dtGetEditParams(edit, &params);
+    Expect("year of the record", params.year, 2007);
+    Expect("month of the record", params.month, 3);
+    Expect("day of the record", params.day, 5);
+    Expect("the layout is to be kept", static_cast<LONG>(params.keepLayout), TRUE);
+    Expect("separator", params.separator, '.');
+    Expect("what stands last", static_cast<LONG>(params.kinds[2]), DT_YEAR);
+
+    Expect("changes by functions", changes, 0);
+    SetFocus(edit);
+    SendMessageA(edit, WM_KEYDOWN, VK_UP, 0); // steps what stands first
+    Expect("day after the key", dtGetDay(edit), 6);
+    Expect("changes of the date", changes, 1);
+    DestroyWindow(edit);
+}
+
+// Two seconds to midnight, in a format of 12 hours.
+TmEditParams LateInTheEvening() {
+    TmEditParams params = {};
+    params.setTime = TRUE;
+    params.time = {23, 59, 58};
+    params.separator = '.';
+    params.leadingZero = TRUE;
+    params.showSeconds = TRUE;
+    std::strcpy(params.amText, "morning");
+    std::strcpy(params.pmText, "evening");
+    return params;
+}
+
+void UseTimeEdit(Host& host) {
+    int changes = 0;
+    HWND edit = host.Add(VORN_TIMEEDIT_CLASS, "", WS_TABSTOP | VTMS_SUNKEN | VTMS_SECONDS,
+                         {350, 14, 500, 40});
+    host.OnCommand(edit, EN_CHANGE, [&] { ++changes; });
+    const TmEditParams params = LateInTheEvening();
+    TmEditParams kept = {};
+    std::array<char, 64> text = {};
+    tmSetEditParams(edit, &params);
+    ExpectText("time as text", tmGetTimeString(edit, text.data()), "11.59.58 evening");
+    tmGetEditParams(edit, &kept);
+    ExpectSame("time and format are those set", kept, params);
+
+    const TmTime afternoon = {14, 5, 9};
+    TmTime time = {};
+    tmSetTime(edit, &afternoon);
+    Expect("hour", static_cast<LONG>(tmGetHour(edit)), 14);
+    Expect("minute", static_cast<LONG>(tmGetMinute(edit)), 5);
+    Expect("second", static_cast<LONG>(tmGetSecond(edit)), 9);
+    tmGetTime(edit, &time);
+    ExpectSame("the time is that set", time, afternoon);
+    Expect("changes by functions", changes, 0);
+    SetFocus(edit);
+    SendMessageA(edit, WM_KEYDOWN, VK_UP, 0); // steps the hour
+    Expect("hour after the key", static_cast<LONG>(tmGetHour(edit)), 15);
+    Expect("changes of the time", changes, 1);
+    DestroyWindow(edit);
+}
+
+// One item at the top, and two below it.
+void UseOutlineList(Host& host) {
+    int selections = 0;
+    HWND list = host.Add(VORN_HIERLIST_CLASS, "", WS_TABSTOP | WS_VSCROLL | LBS_NOTIFY,
+                         {10, 100, 340, 500});
+    host.OnCommand(list, LBN_SELCHANGE, [&] { ++selections; });
+    HOLBITEM fruit = olbAddChildStringEx(list, nullptr, "Fruit");
+    HOLBITEM pear = olbAddChildStringEx(list, fruit, "Pear");
+    const OLBINSERTION insertion = {fruit, 0, "Apple"};
+    auto* apple = reinterpret_cast<HOLBITEM>(
+        SendMessageA(list, OLBM_INSERTSTRINGEX, 0, reinterpret_cast<LPARAM>(&insertion)));
+    Expect("apples are fruit", olbQueryParentEx(list, apple) == fruit, TRUE);
+    Expect("fruit is at the top", olbQueryParentEx(list, fruit) == nullptr, TRUE);
+    olbCloseItem(list, olbHandleToIndex(fruit)); // only then it knows its children by number
+    Expect("pears stand behind apples", olbGetChildHandleEx(fruit, 1) == pear, TRUE);
+    Expect("there are no plums", olbFindStringEx(list, fruit, -1, "Plum", TRUE) == OLB_NOITEM,
+           TRUE);
+    std::array<char, 20> text = {};
+    Expect("length of the text", olbGetTextEx(list, apple, text.data()), 5);
+    ExpectText("text of the item", text.data(), "Apple");
+    // As wide as a pointer.
+    olbSetItemDataEx(list, pear, reinterpret_cast<LONG_PTR>(&host));
+    Expect("the item has its data",
+           olbGetItemDataEx(list, pear) == reinterpret_cast<LONG_PTR>(&host), TRUE);
+
+    Expect("items", olbGetCount(list), 3);
+    Expect("rows of the closed list", olbGetVisibleCount(list), 1);
+    olbOpenItem(list, olbHandleToIndex(fruit));
+    Expect("rows of the open list", olbGetVisibleCount(list), 3);
+    Expect("row of the pear", olbHandleToIndex(pear), 2);
+    Expect("the item of that row", olbIndexToHandle(list, 2) == pear, TRUE);
+    Expect("selections by functions", selections, 0);
+    RECT place = {};
+    Expect("the row is in view", olbGetItemRect(list, 2, &place), 1);
+    Click(list, place.right - 1, (place.top + place.bottom) / 2);
+    Expect("the click selected the pear", olbGetCurSelEx(list) == pear, TRUE);
+    Expect("selections", selections, 1);
+    DestroyWindow(list);
+}
+
 } // namespace
 
 int main() {
@@ -211,6 +409,10 @@ int main() {
     UseComboBox(host, button);
     UseFontSelector(host);
     UsePad(host);
+    UseNumericEdit(host);
+    UseDateEdit(host);
+    UseTimeEdit(host);
+    UseOutlineList(host);
     std::printf("%s\n", failures == 0 ? "All is as expected." : "Not all is as expected.");
     return failures == 0 ? 0 : 1;
 }

@@ -3,23 +3,36 @@ package main
 // What this host uses of Windows, under the names of its headers.
 
 import (
+	"bytes"
 	"syscall"
 	"unsafe"
 )
 
 type (
-	HWND   uintptr
-	BOOL   int32
-	UINT   uint32
-	LONG   int32
-	WORD   uint16
-	DWORD  uint32
-	WPARAM uintptr
-	LPARAM uintptr
-	LPSTR  *byte
+	HWND     uintptr
+	BOOL     int32
+	UINT     uint32
+	LONG     int32
+	WORD     uint16
+	DWORD    uint32
+	WPARAM   uintptr
+	LPARAM   uintptr
+	LRESULT  int
+	LONG_PTR int
+	LPSTR    *byte
+	LPCSTR   *byte
 )
 
+type RECT struct {
+	left   LONG
+	top    LONG
+	right  LONG
+	bottom LONG
+}
+
 const (
+	WM_SETTEXT       = 0x000C
+	WM_KEYDOWN       = 0x0100
 	WM_CHAR          = 0x0102
 	WM_COMMAND       = 0x0111
 	WM_VSCROLL       = 0x0115
@@ -35,14 +48,19 @@ const (
 	WS_CHILD            = 0x40000000
 	WS_VISIBLE          = 0x10000000
 	WS_TABSTOP          = 0x00010000
+	WS_VSCROLL          = 0x00200000
 	CBS_DROPDOWNLIST    = 0x0003
+	LBS_NOTIFY          = 0x0001
 
-	CBN_SETFOCUS = 3
-	SB_LINEDOWN  = 1
-	MK_LBUTTON   = 1
-	SW_SHOW      = 5
-	LF_FACESIZE  = 32
-	COLOR_3DFACE = 15
+	CBN_SETFOCUS  = 3
+	EN_CHANGE     = 0x0300
+	LBN_SELCHANGE = 1
+	SB_LINEDOWN   = 1
+	MK_LBUTTON    = 1
+	VK_UP         = 0x26
+	SW_SHOW       = 5
+	LF_FACESIZE   = 32
+	COLOR_3DFACE  = 15
 )
 
 type wndClass struct {
@@ -71,12 +89,18 @@ var (
 )
 
 // Windows wants its texts terminated by a zero.
-func text(s string) LPSTR {
+func text(s string) *byte {
 	pointer, err := syscall.BytePtrFromString(s)
 	if err != nil {
 		panic(err)
 	}
 	return pointer
+}
+
+// What stands in a buffer in front of the zero.
+func textIn(buffer []byte) string {
+	before, _, _ := bytes.Cut(buffer, []byte{0})
+	return string(before)
 }
 
 func registerClass(class *wndClass) {
