@@ -130,15 +130,15 @@ TEST_F(RandomMessages, ToComboBoxes) {
 
 TEST_F(RandomMessages, ToControlsThatAreHalfCreated) {
     ForEachSubject([](const Subject& subject) {
-        for (const Stadium stadium : kStadiums) {
+        for (const CreationStage creationStage : kCreationStages) {
             Stage stage(subject);
             stage.host();
             WatchedImports::Forget();
             {
                 CreationWatch watch(subject.className);
                 bool sent = false; // some of the messages are those that create
-                watch.at = [&](HWND window, Stadium met) {
-                    if (met == stadium && !sent) {
+                watch.at = [&](HWND window, CreationStage met) {
+                    if (met == creationStage && !sent) {
                         sent = true;
                         NoteDeed("messages to a half " + std::string(subject.className));
                         SendRandomMessagesTo(window, Seed(), kMessagesToHalves, subject.addresses);
@@ -149,7 +149,7 @@ TEST_F(RandomMessages, ToControlsThatAreHalfCreated) {
                 EXPECT_NE(watch.window(), nullptr);
             }
             stage.Clear();
-            EXPECT_EQ(WatchedImports::Left(), "") << static_cast<int>(stadium);
+            EXPECT_EQ(WatchedImports::Left(), "") << static_cast<int>(creationStage);
         }
     });
 }
