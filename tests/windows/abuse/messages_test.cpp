@@ -2,6 +2,7 @@
 // that are none, and to what is left of a control that was destroyed.
 #include "tests/windows/abuse/creation.h"
 #include "tests/windows/abuse/imports.h"
+#include "tests/windows/abuse/subject_operations.h"
 #include "tests/windows/abuse/subjects.h"
 #include "tests/windows/support/abuse.h"
 #include "tests/windows/support/crash.h"
@@ -30,7 +31,7 @@ std::uint32_t Seed() {
 
 // A press on a date edit's button opens a dialog, which is given up soon.
 void CALLBACK CloseDialog(HWND, UINT, UINT_PTR, DWORD) {
-    EndDialog(FindWindowA("#32770", "Select Date"), IDCANCEL);
+    EndDateDialogs(IDCANCEL);
 }
 
 // The system's combo box, which ours is, takes whatever it finds in a window for its record.
