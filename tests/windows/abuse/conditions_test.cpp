@@ -1,5 +1,6 @@
 // What can happen to any window at any time happens to every class, whatever it is busy with.
 #include "tests/windows/abuse/imports.h"
+#include "tests/windows/abuse/subject_operations.h"
 #include "tests/windows/abuse/subjects.h"
 #include "tests/windows/support/crash.h"
 #include "tests/windows/support/input.h"
@@ -7,39 +8,129 @@
 
 #include <gtest/gtest.h>
 #include <set>
+#include <utility>
 #include <vorn32.h>
 
 namespace vorn::test {
 namespace {
 
-// What the control is doing; null where its class cannot.
-struct State {
-    const char* name;
-    bool (*enter)(const Subject& subject, HWND control);
-};
+using Work = std::function<void()>;
 
-bool Press(const Subject& subject, HWND control) {
-    SendMouse(control, WM_LBUTTONDOWN, static_cast<int>(subject.press.x),
-              static_cast<int>(subject.press.y));
+// Does the work while the control is in a state; false when its class is never in it.
+using State = bool (*)(const Subject& subject, HWND control, const Work& work);
+
+bool IsClass(const Subject& subject, const char* className) {
+    return subject.className == std::string(className);
+}
+
+bool Idle(const Subject&, HWND, const Work& work) {
+    work();
     return true;
 }
 
-constexpr State kStates[] = {
-    {"idle", [](const Subject&, HWND) { return true; }},
-    {"focused",
-     [](const Subject&, HWND control) {
-         SetFocus(control);
-         return true;
-     }},
-    {"pressed", Press},
-    {"with a timer",
-     [](const Subject& subject, HWND control) {
-         if (subject.startTimer) {
-             subject.startTimer(control);
-         }
-         return static_cast<bool>(subject.startTimer);
-     }},
-};
+bool Focused(const Subject&, HWND control, const Work& work) {
+    SetFocus(control);
+    work();
+    return true;
+}
+
+bool Pressed(const Subject& subject, HWND control, const Work& work) {
+    SendMouse(control, WM_LBUTTONDOWN, static_cast<int>(subject.press.x),
+              static_cast<int>(subject.press.y));
+    work();
+    return true;
+}
+
+bool WithATimer(const Subject& subject, HWND control, const Work& work) {
+    if (!subject.startTimer) {
+        return false;
+    }
+    subject.startTimer(control);
+    work();
+    return true;
+}
+
+// What edits have in common.
+bool IsEdit(const Subject& subject) {
+    return IsClass(subject, VORN_NUMEDIT_CLASS) || IsClass(subject, VORN_DATEEDIT_CLASS) ||
+           IsClass(subject, VORN_TIMEEDIT_CLASS);
+}
+
+bool IsNull(const Subject& subject, HWND edit) {
+    if (IsClass(subject, VORN_NUMEDIT_CLASS)) {
+        return nmIsNull(edit) != FALSE;
+    }
+    return (IsClass(subject, VORN_DATEEDIT_CLASS) ? dtIsNull(edit) : tmIsNull(edit)) != FALSE;
+}
+
+bool Null(const Subject& subject, HWND control, const Work& work) {
+    if (!IsEdit(subject)) {
+        return false;
+    }
+    for (const auto setNull : {nmSetNull, dtSetNull, tmSetNull}) {
+        setNull(control);
+    }
+    work();
+    return true;
+}
+
+bool ReadOnly(const Subject& subject, HWND control, const Work& work) {
+    if (!IsEdit(subject)) {
+        return false;
+    }
+    SendMessageA(control, EM_SETREADONLY, TRUE, 0);
+    SetFocus(control);
+    work();
+    return true;
+}
+
+// The lists that drop down from a control.
+std::vector<HWND> DropDownsOf(const Subject& subject, HWND control) {
+    if (IsClass(subject, VORN_COMBOBOX_CLASS)) {
+        return {control};
+    }
+    if (IsClass(subject, VORN_FONTSELECT_CLASS)) {
+        return {ListIn(control, 0), ListIn(control, 1)};
+    }
+    return {};
+}
+
+bool WithListsOpen(const Subject& subject, HWND control, const Work& work) {
+    const std::vector<HWND> dropDowns = DropDownsOf(subject, control);
+    for (HWND dropDown : dropDowns) {
+        SetFocus(dropDown);
+        SendMessageA(dropDown, CB_SHOWDROPDOWN, TRUE, 0);
+    }
+    if (!dropDowns.empty()) {
+        work();
+    }
+    return !dropDowns.empty();
+}
+
+// A date edit's dialog is modal: the work is done in a timer of its message loop.
+const Work* workInDialog = nullptr;
+
+void CALLBACK DoWorkInDialog(HWND, UINT, UINT_PTR timer, DWORD) {
+    if (FindDateDialog() == nullptr) {
+        return;
+    }
+    KillTimer(nullptr, timer);
+    (*std::exchange(workInDialog, nullptr))();
+    EndDateDialogs(IDCANCEL);
+}
+
+bool WithDialogOpen(const Subject& subject, HWND control, const Work& work) {
+    if (!IsClass(subject, VORN_DATEEDIT_CLASS) ||
+        (GetWindowLongA(control, GWL_STYLE) & VDTS_CALENDAR) == 0) {
+        return false;
+    }
+    workInDialog = &work;
+    const UINT_PTR timer = SetTimer(nullptr, 0, USER_TIMER_MINIMUM, DoWorkInDialog);
+    PressCalendarButton(control);
+    KillTimer(nullptr, timer);
+    EXPECT_EQ(workInDialog, nullptr) << "no dialog was opened";
+    return true;
+}
 
 struct Condition {
     const char* name;
@@ -137,25 +228,27 @@ class Conditions : public testing::Test {
 protected:
     WatchedImports watched;
 
-    static void RunAll(const Subject& subject, const State& state) {
+    static void RunAll(const Subject& subject, State state) {
         for (const DWORD style : subject.styles) {
             for (const Condition& condition : kConditions) {
                 SCOPED_TRACE(condition.name + std::string(", style ") + std::to_string(style));
                 Stage stage(subject); // what happens may outlast the control
                 HWND control = stage.Create(style);
-                if (!state.enter(subject, control)) {
+                NoteDeed(std::string(condition.name) + " of a " + subject.className);
+                const auto work = [&] {
+                    condition.happen(control);
+                    GoOn(subject, control);
+                };
+                if (!state(subject, control, work)) {
                     return;
                 }
-                NoteDeed(std::string(condition.name) + " of a " + subject.className);
-                condition.happen(control);
-                GoOn(subject, control);
                 stage.Clear();
                 ASSERT_EQ(WatchedImports::Left(), "");
             }
         }
     }
 
-    static void RunIn(const State& state) {
+    static void RunIn(State state) {
         ForEachSubject([&](const Subject& subject) { RunAll(subject, state); });
     }
 };
@@ -168,37 +261,72 @@ bool HasTimer(HWND control) {
     return found;
 }
 
+// Whether what should be so is so while a new control is in the state; what should be so elsewhere
+// is not asked.
+void ExpectIn(State state, const Subject& subject, const std::function<bool(HWND)>& isSo) {
+    Stage stage(subject);
+    HWND control = stage.Create(subject.styles[0]);
+    bool was = false;
+    const bool isEntered = state(subject, control, [&] { was = isSo(control); });
+    EXPECT_EQ(was, isEntered);
+    stage.Clear();
+}
+
 // Calendars, percent bars and font selectors do not capture the mouse.
 TEST_F(Conditions, FindControlsInTheStatesThatTheyAreFor) {
     const std::set<std::string> neverCapture = {VORN_CALENDAR_CLASS, VORN_PERCENTBAR_CLASS,
                                                 VORN_FONTSELECT_CLASS};
     ForEachSubject([&](const Subject& subject) {
-        Stage stage(subject);
-        kStates[2].enter(subject, stage.Create(subject.styles[0]));
-        EXPECT_EQ(GetCapture() == stage.control(), neverCapture.count(subject.className) == 0);
-        const bool hasTimer = kStates[3].enter(subject, stage.Create(subject.styles[0]));
-        EXPECT_EQ(HasTimer(stage.control()), hasTimer);
-        const bool takesFocus = subject.className != std::string(VORN_PERCENTBAR_CLASS);
-        kStates[1].enter(subject, stage.Create(subject.styles[0]));
-        EXPECT_TRUE(GetFocus() == stage.control() || IsChild(stage.control(), GetFocus()) ||
-                    !takesFocus);
+        ExpectIn(Pressed, subject, [&](HWND control) {
+            return (GetCapture() == control) == (neverCapture.count(subject.className) == 0);
+        });
+        ExpectIn(WithATimer, subject, HasTimer);
+        ExpectIn(Focused, subject, [&](HWND control) {
+            return GetFocus() == control || IsChild(control, GetFocus()) ||
+                   IsClass(subject, VORN_PERCENTBAR_CLASS);
+        });
+        ExpectIn(Null, subject, [&](HWND control) { return IsNull(subject, control); });
+        ExpectIn(ReadOnly, subject, [](HWND control) {
+            return (GetWindowLongA(control, GWL_STYLE) & VDTS_READONLY) != 0;
+        });
+        ExpectIn(WithListsOpen, subject, [&](HWND control) {
+            return SendMessageA(DropDownsOf(subject, control).back(), CB_GETDROPPEDSTATE, 0, 0) !=
+                   0;
+        });
+        ExpectIn(WithDialogOpen, subject, [](HWND) { return FindDateDialog() != nullptr; });
     });
 }
 
 TEST_F(Conditions, OfIdleControls) {
-    RunIn(kStates[0]);
+    RunIn(Idle);
 }
 
 TEST_F(Conditions, OfFocusedControls) {
-    RunIn(kStates[1]);
+    RunIn(Focused);
 }
 
 TEST_F(Conditions, OfPressedControls) {
-    RunIn(kStates[2]);
+    RunIn(Pressed);
 }
 
 TEST_F(Conditions, OfControlsWithATimer) {
-    RunIn(kStates[3]);
+    RunIn(WithATimer);
+}
+
+TEST_F(Conditions, OfNullEdits) {
+    RunIn(Null);
+}
+
+TEST_F(Conditions, OfReadOnlyEdits) {
+    RunIn(ReadOnly);
+}
+
+TEST_F(Conditions, OfControlsWithTheirListsOpen) {
+    RunIn(WithListsOpen);
+}
+
+TEST_F(Conditions, OfDateEditsWithTheirDialogOpen) {
+    RunIn(WithDialogOpen);
 }
 
 // By the system's own count, or the places in its tables.

@@ -37,11 +37,11 @@ bool CreationWatch::Meet(HWND window) {
     window_ = window;
     procedure_ = reinterpret_cast<WNDPROC>(
         SetWindowLongPtrA(window, GWLP_WNDPROC, reinterpret_cast<LONG_PTR>(Procedure)));
-    return Ask(Stadium::Bare);
+    return Ask(CreationStage::Bare);
 }
 
-bool CreationWatch::Ask(Stadium stadium) {
-    return at && at(window_, stadium);
+bool CreationWatch::Ask(CreationStage stage) {
+    return at && at(window_, stage);
 }
 
 LRESULT CreationWatch::Pass(const Message& message) {
@@ -50,8 +50,8 @@ LRESULT CreationWatch::Pass(const Message& message) {
                              : 0;
 }
 
-LRESULT CreationWatch::PassCreation(const Message& message, Stadium before, Stadium after,
-                                    LRESULT refusal) {
+LRESULT CreationWatch::PassCreation(const Message& message, CreationStage before,
+                                    CreationStage after, LRESULT refusal) {
     if (Ask(before)) {
         return refusal;
     }
@@ -69,10 +69,11 @@ LRESULT CALLBACK CreationWatch::Procedure(HWND window, UINT message, WPARAM wPar
     }
     switch (message) {
     case WM_NCCREATE:
-        return watch->PassCreation(received, Stadium::BeforeNcCreate, Stadium::AfterNcCreate,
-                                   FALSE);
+        return watch->PassCreation(received, CreationStage::BeforeNcCreate,
+                                   CreationStage::AfterNcCreate, FALSE);
     case WM_CREATE:
-        return watch->PassCreation(received, Stadium::BeforeCreate, Stadium::AfterCreate, -1);
+        return watch->PassCreation(received, CreationStage::BeforeCreate,
+                                   CreationStage::AfterCreate, -1);
     default:
         return watch->Pass(received);
     }

@@ -11,7 +11,7 @@
 namespace vorn::test {
 
 // How far a window's creation is.
-enum class Stadium {
+enum class CreationStage {
     Bare,           // its handle is there, it has got no message
     BeforeNcCreate, // WM_NCCREATE comes
     AfterNcCreate,  // the class has answered it
@@ -19,9 +19,9 @@ enum class Stadium {
     AfterCreate,
 };
 
-inline constexpr Stadium kStadiums[] = {Stadium::Bare, Stadium::BeforeNcCreate,
-                                        Stadium::AfterNcCreate, Stadium::BeforeCreate,
-                                        Stadium::AfterCreate};
+inline constexpr CreationStage kCreationStages[] = {
+    CreationStage::Bare, CreationStage::BeforeNcCreate, CreationStage::AfterNcCreate,
+    CreationStage::BeforeCreate, CreationStage::AfterCreate};
 
 // While it is there, it looks over the shoulder of the next window of a class from the start of
 // its creation on.
@@ -32,8 +32,8 @@ public:
     CreationWatch(const CreationWatch&) = delete;
     CreationWatch& operator=(const CreationWatch&) = delete;
 
-    // Called at each stadium; true refuses the creation there.
-    std::function<bool(HWND, Stadium)> at;
+    // Called at each stage; true refuses the creation there.
+    std::function<bool(HWND, CreationStage)> at;
     // Called before each message, from the first on.
     std::function<void(const Message&)> before;
 
@@ -43,9 +43,10 @@ private:
     static LRESULT CALLBACK OnHook(int code, WPARAM wParam, LPARAM lParam);
     static LRESULT CALLBACK Procedure(HWND window, UINT message, WPARAM wParam, LPARAM lParam);
     bool Meet(HWND window);
-    bool Ask(Stadium stadium);
+    bool Ask(CreationStage stage);
     LRESULT Pass(const Message& message);
-    LRESULT PassCreation(const Message& message, Stadium before, Stadium after, LRESULT refusal);
+    LRESULT PassCreation(const Message& message, CreationStage before, CreationStage after,
+                         LRESULT refusal);
 
     std::string className_;
     HHOOK hook_;

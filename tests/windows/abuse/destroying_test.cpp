@@ -8,6 +8,7 @@
 
 #include <algorithm>
 #include <gtest/gtest.h>
+#include <limits>
 #include <vorn32.h>
 
 namespace vorn::test {
@@ -45,11 +46,16 @@ constexpr Target kTargets[] = {
 
 constexpr LRESULT kRowForKeys = 2;
 
-// All in the first style, which tells the most, and in the others the control itself.
+// Nothing but the destruction is unusual.
+bool IsPlain(const Target& target) {
+    return target.answer == 0 && target.calls == Calls::Usual;
+}
+
+// In the first style, which tells the most, other answers and other calls besides.
 bool Concerns(const Target& target, const Subject& subject, DWORD style) {
     const std::string name = subject.className;
     if (style != subject.styles[0]) {
-        return &target == &kTargets[0];
+        return IsPlain(target);
     }
     return target.calls == Calls::Usual ||
            name == (target.calls == Calls::OfParts ? VORN_FONTSELECT_CLASS : VORN_HIERLIST_CLASS);
@@ -112,6 +118,26 @@ protected:
     }
 };
 
+// Runs the operation on a list that gets no more memory after this many requests; the host destroys
+// the target when it is told so. Whether memory was short.
+bool RunShortOfMemory(Stage& stage, DWORD style, const Operation& operation, const Target& target,
+                      int requests, int& told) {
+    HWND control = stage.Create(style);
+    stage.host().answer = [&](const Message& message) -> std::optional<LRESULT> {
+        if (message.message == WM_COMMAND &&
+            HIWORD(message.wParam) == static_cast<WORD>(LBN_ERRSPACE)) {
+            ++told;
+            DestroyWindow(target.find(control, GetParent(control)));
+        }
+        return std::nullopt;
+    };
+    WatchedImports::FailAfter(Supply::Memory, requests, std::numeric_limits<int>::max());
+    operation.run(control);
+    const bool wasShort = WatchedImports::StopFailing() != 0;
+    stage.Clear();
+    return wasShort;
+}
+
 // What a class tells its parent or itself while the operations run.
 std::vector<Message> ToldBy(const Subject& subject) {
     std::vector<Message> told;
@@ -142,6 +168,27 @@ TEST_F(Destroying, ComesToAllThatAClassTells) {
                 << expected.message << " with " << expected.code;
         }
     });
+}
+
+TEST_F(Destroying, WhenAListTellsThatMemoryRanOut) {
+    const Subject& subject = SubjectOf(VORN_HIERLIST_CLASS);
+    Stage stage(subject);
+    for (const Target& target : kTargets) {
+        if (!IsPlain(target)) {
+            continue;
+        }
+        for (const DWORD style : subject.styles) {
+            SCOPED_TRACE(std::string(target.name) + ", style " + std::to_string(style));
+            int told = 0;
+            for (const Operation& operation : subject.operations) {
+                NoteDeed(operation.name + " without memory, destroying " + target.name);
+                RunThrough([&](int requests) {
+                    return RunShortOfMemory(stage, style, operation, target, requests, told);
+                });
+            }
+            EXPECT_GT(told, 0);
+        }
+    }
 }
 
 TEST_F(Destroying, InCallsOfAButton) {

@@ -229,10 +229,11 @@ TEST_F(EveryExport, AnswersForControlsThatAreHalfCreated) {
         int met = 0;
         {
             CreationWatch watch(subject.className);
-            watch.at = [&](HWND window, Stadium stadium) {
+            watch.at = [&](HWND window, CreationStage creationStage) {
                 ++met;
                 control = IsList(subject) ? window : nullptr;
-                const bool isNone = stadium == Stadium::Bare || stadium == Stadium::BeforeNcCreate;
+                const bool isNone = creationStage == CreationStage::Bare ||
+                                    creationStage == CreationStage::BeforeNcCreate;
                 for (const Export& function : Exports()) {
                     if (!function.call) {
                         continue;
@@ -255,16 +256,16 @@ TEST_F(EveryExport, AnswersForControlsThatAreHalfCreated) {
 
 TEST_F(EveryExport, AnswersForControlsWhoseCreationWasRefused) {
     ForEachSubject([this](const Subject& subject) {
-        for (const Stadium refused : kStadiums) {
+        for (const CreationStage refused : kCreationStages) {
             Stage stage(subject);
             stage.host();
             WatchedImports::Forget();
             HWND window = nullptr;
             {
                 CreationWatch watch(subject.className);
-                watch.at = [&](HWND met, Stadium stadium) {
+                watch.at = [&](HWND met, CreationStage creationStage) {
                     window = met;
-                    return stadium == refused;
+                    return creationStage == refused;
                 };
                 EXPECT_EQ(stage.CreateEmpty(subject.styles[0]), nullptr);
             }

@@ -2,6 +2,7 @@
 // that are none, and to what is left of a control that was destroyed.
 #include "tests/windows/abuse/creation.h"
 #include "tests/windows/abuse/imports.h"
+#include "tests/windows/abuse/subject_operations.h"
 #include "tests/windows/abuse/subjects.h"
 #include "tests/windows/support/abuse.h"
 #include "tests/windows/support/crash.h"
@@ -30,7 +31,7 @@ std::uint32_t Seed() {
 
 // A press on a date edit's button opens a dialog, which is given up soon.
 void CALLBACK CloseDialog(HWND, UINT, UINT_PTR, DWORD) {
-    EndDialog(FindWindowA("#32770", "Select Date"), IDCANCEL);
+    EndDateDialogs(IDCANCEL);
 }
 
 // The system's combo box, which ours is, takes whatever it finds in a window for its record.
@@ -130,15 +131,15 @@ TEST_F(RandomMessages, ToComboBoxes) {
 
 TEST_F(RandomMessages, ToControlsThatAreHalfCreated) {
     ForEachSubject([](const Subject& subject) {
-        for (const Stadium stadium : kStadiums) {
+        for (const CreationStage creationStage : kCreationStages) {
             Stage stage(subject);
             stage.host();
             WatchedImports::Forget();
             {
                 CreationWatch watch(subject.className);
                 bool sent = false; // some of the messages are those that create
-                watch.at = [&](HWND window, Stadium met) {
-                    if (met == stadium && !sent) {
+                watch.at = [&](HWND window, CreationStage met) {
+                    if (met == creationStage && !sent) {
                         sent = true;
                         NoteDeed("messages to a half " + std::string(subject.className));
                         SendRandomMessagesTo(window, Seed(), kMessagesToHalves, subject.addresses);
@@ -149,7 +150,7 @@ TEST_F(RandomMessages, ToControlsThatAreHalfCreated) {
                 EXPECT_NE(watch.window(), nullptr);
             }
             stage.Clear();
-            EXPECT_EQ(WatchedImports::Left(), "") << static_cast<int>(stadium);
+            EXPECT_EQ(WatchedImports::Left(), "") << static_cast<int>(creationStage);
         }
     });
 }

@@ -88,30 +88,40 @@ std::vector<Operation> EditOperations() {
     };
 }
 
+// ---- The date edit's dialog ----
+
+HWND dialogThatStays = nullptr; // opened by another
+
 // Chooses or gives up, in turn, in the dialog that a date edit opened.
 void CALLBACK EndPopup(HWND, UINT, UINT_PTR, DWORD) {
     static bool choose = false;
-    HWND dialog = FindWindowA("#32770", "Select Date");
-    if (dialog != nullptr) {
+    if (FindDateDialog(dialogThatStays) != nullptr) {
         choose = !choose;
-        SendMessageA(dialog, WM_COMMAND, choose ? IDOK : IDCANCEL, 0);
+        EndDateDialogs(choose ? IDOK : IDCANCEL, dialogThatStays);
     }
 }
 
 void OpenPopup(HWND dateEdit) {
+    dialogThatStays = FindDateDialog();
     const UINT_PTR timer = SetTimer(nullptr, 0, USER_TIMER_MINIMUM, EndPopup);
-    SendMouse(dateEdit, WM_LBUTTONDOWN, 108, 10);
-    SendMouse(dateEdit, WM_LBUTTONUP, 108, 10);
+    PressCalendarButton(dateEdit);
     KillTimer(nullptr, timer);
 }
 
-// The list of a font selector, by its place.
-HWND ListIn(HWND fontSelector, int place) {
-    HWND list = GetWindow(GetWindow(fontSelector, GW_CHILD), GW_CHILD);
-    for (int i = 0; i < place && list != nullptr; ++i) {
-        list = GetWindow(list, GW_HWNDNEXT);
+struct DialogSearch {
+    HWND except;
+    HWND found;
+};
+
+// A dialog that has been ended is hidden until its loop has noticed.
+BOOL CALLBACK CompareDialog(HWND window, LPARAM parameter) {
+    auto* search = reinterpret_cast<DialogSearch*>(parameter);
+    char title[20] = "";
+    if (window != search->except && IsWindowVisible(window) &&
+        GetWindowTextA(window, title, sizeof title) > 0 && title == std::string("Select Date")) {
+        search->found = window;
     }
-    return list;
+    return search->found == nullptr ? TRUE : FALSE;
 }
 
 Operation Choose(const std::string& name, int place) {
@@ -126,6 +136,31 @@ Operation Choose(const std::string& name, int place) {
 }
 
 } // namespace
+
+HWND ListIn(HWND fontSelector, int place) {
+    HWND list = GetWindow(GetWindow(fontSelector, GW_CHILD), GW_CHILD);
+    for (int i = 0; i < place && list != nullptr; ++i) {
+        list = GetWindow(list, GW_HWNDNEXT);
+    }
+    return list;
+}
+
+void PressCalendarButton(HWND dateEdit) {
+    SendMouse(dateEdit, WM_LBUTTONDOWN, 108, 10);
+    SendMouse(dateEdit, WM_LBUTTONUP, 108, 10);
+}
+
+HWND FindDateDialog(HWND except) {
+    DialogSearch search = {except, nullptr};
+    EnumThreadWindows(GetCurrentThreadId(), CompareDialog, reinterpret_cast<LPARAM>(&search));
+    return search.found;
+}
+
+void EndDateDialogs(WORD command, HWND except) {
+    while (HWND dialog = FindDateDialog(except)) {
+        SendMessageA(dialog, WM_COMMAND, command, 0);
+    }
+}
 
 std::vector<Operation> CommonOperations(POINT press) {
     const auto x = static_cast<int>(press.x);

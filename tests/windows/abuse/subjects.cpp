@@ -2,6 +2,7 @@
 
 #include "tests/windows/abuse/subject_operations.h"
 #include "tests/windows/support/input.h"
+#include "tests/windows/support/outline_messages.h"
 
 #include <algorithm>
 #include <gtest/gtest.h>
@@ -18,14 +19,6 @@ template <class Element>
 std::vector<Element> With(std::vector<Element> first, const std::vector<Element>& second) {
     first.insert(first.end(), second.begin(), second.end());
     return first;
-}
-
-std::vector<UINT> Range(UINT first, UINT last) {
-    std::vector<UINT> range;
-    for (UINT message = first; message <= last; ++message) {
-        range.push_back(message);
-    }
-    return range;
 }
 
 std::vector<Told> Commands(const std::vector<int>& codes) {
@@ -205,10 +198,7 @@ Subject ListSubject() {
              usual | LBS_MULTICOLUMN | LBS_EXTENDEDSEL | OLBS_RAISED},
             {120, 80},
             {60, 9},
-            With(Range(OLBM_ADDCHILDSTRING, OLBM_SHOWLINES),
-                 {WM_MEASUREITEM, LB_ADDSTRING, LB_INSERTSTRING, LB_GETTEXT, LB_SELECTSTRING,
-                  LB_DIR, LB_FINDSTRING, LB_GETSELITEMS, LB_SETTABSTOPS, LB_ADDFILE, LB_GETITEMRECT,
-                  LB_FINDSTRINGEXACT}),
+            With(OutlineMessagesWithAddresses(), {OLBM_DIREX}), // which lists a whole drive
             FillList,
             [](HWND window) {
                 Press(window, {60, 9});

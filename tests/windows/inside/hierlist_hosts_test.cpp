@@ -6,6 +6,7 @@
 #include "hierlist/list_view_win.h"
 #include "tests/windows/support/abuse.h"
 #include "tests/windows/support/outline_list.h"
+#include "tests/windows/support/outline_messages.h"
 
 #include <vector>
 
@@ -164,46 +165,13 @@ TEST_F(HierListHosts, MayRepaintWithoutEndFromTheirMessages) {
     host.answer = nullptr;
 }
 
-// Messages that carry addresses, handles of items or bitmaps; the parent is handed what the first
-// carries.
-const std::vector<UINT> kWithAddresses = {WM_MEASUREITEM,         LB_ADDSTRING,
-                                          LB_INSERTSTRING,        LB_GETTEXT,
-                                          LB_SELECTSTRING,        LB_DIR,
-                                          LB_FINDSTRING,          LB_GETSELITEMS,
-                                          LB_SETTABSTOPS,         LB_ADDFILE,
-                                          LB_GETITEMRECT,         LB_FINDSTRINGEXACT,
-                                          OLBM_ADDCHILDSTRING,    OLBM_ADDCHILDSTRINGEX,
-                                          OLBM_ADDSTRING,         OLBM_COPYCHILDREN,
-                                          OLBM_COPYCHILDRENEX,    OLBM_COPYITEM,
-                                          OLBM_COPYITEMEX,        OLBM_DELETESTRINGEX,
-                                          OLBM_DELETESUBTREEEX,   OLBM_FINDSTRING,
-                                          OLBM_FINDSTRINGEX,      OLBM_FINDSTRINGEXACT,
-                                          OLBM_FINDSTRINGEXACTEX, OLBM_GETCHILDHANDLEEX,
-                                          OLBM_GETFULLPATH,       OLBM_GETFULLPATHEX,
-                                          OLBM_GETITEMDATAEX,     OLBM_GETITEMHEIGHTEX,
-                                          OLBM_GETITEMRECT,       OLBM_GETPATHSEPARATOR,
-                                          OLBM_GETSELITEMS,       OLBM_GETTEXT,
-                                          OLBM_GETTEXTEX,         OLBM_GETTEXTLENGTHEX,
-                                          OLBM_HANDLETOINDEX,     OLBM_INSERTSTRING,
-                                          OLBM_INSERTSTRINGEX,    OLBM_LOCKITEMEX,
-                                          OLBM_MOVECHILDREN,      OLBM_MOVECHILDRENEX,
-                                          OLBM_MOVEITEM,          OLBM_MOVEITEMEX,
-                                          OLBM_HASCHILDRENEX,     OLBM_QUERYLEVELEX,
-                                          OLBM_QUERYLOCKEX,       OLBM_QUERYOPENEX,
-                                          OLBM_QUERYPARENTEX,     OLBM_QUERYVISIBLE,
-                                          OLBM_SELECTSTRING,      OLBM_SETBITMAPINDEXEX,
-                                          OLBM_SETBITMAPS,        OLBM_SETBITMAPSEX,
-                                          OLBM_SETITEMDATAEX,     OLBM_SETITEMHEIGHTEX,
-                                          OLBM_SETITEMTEXT,       OLBM_SETITEMTEXTEX,
-                                          OLBM_SETLEVELBITMAP};
-
 TEST_F(HierListHosts, MaySendAnything) {
     const auto create = [&] {
         HWND list = Create(WS_VSCROLL | WS_HSCROLL | OLBS_SUNKEN);
         AddRows(list, 30);
         return list;
     };
-    test::SendRandomMessages(create, 6207, 20000, kWithAddresses);
+    test::SendRandomMessages(create, 6207, 20000, test::OutlineMessagesWithAddresses());
 }
 
 } // namespace

@@ -1,5 +1,6 @@
 // Does to a control of each class, at random and for minutes, what hosts and users do to it, and
 // watches what the process has meanwhile: soak.exe [MINUTES [SEED]]. Fails when that grows.
+#include "tests/windows/abuse/subject_operations.h"
 #include "tests/windows/abuse/subjects.h"
 #include "tests/windows/support/crash.h"
 #include "tests/windows/support/objects.h"
@@ -46,7 +47,7 @@ void Pump() {
 
 // A press on a date edit's button opens a dialog, which ends soon in one way or the other.
 void CALLBACK EndDateDialog(HWND, UINT, UINT_PTR, DWORD time) {
-    EndDialog(FindWindowA("#32770", "Select Date"), time / 64 % 2 == 0 ? IDOK : IDCANCEL);
+    EndDateDialogs(time / 64 % 2 == 0 ? IDOK : IDCANCEL);
 }
 
 // All but the clipboard: each reading of it leaves 1 KiB of Wine's own in the process, whoever

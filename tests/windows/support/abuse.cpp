@@ -17,66 +17,33 @@ constexpr int kForeignExtra = 48;
 constexpr UINT kPopUpSystemMenu = 0x0313; // the platform's own, which its headers leave unnamed
 constexpr UINT kControlColor = 0x0019;
 
-// Messages that carry pointers, or that the default procedure answers with a modal loop.
-constexpr std::array<UINT, 41> kLeftOut = {
-    WM_CREATE,
-    WM_SETTEXT,
-    WM_GETTEXT,
-    WM_GETMINMAXINFO,
-    WM_DRAWITEM,
-    WM_MEASUREITEM,
-    WM_DELETEITEM,
-    WM_COMPAREITEM,
-    WM_WINDOWPOSCHANGED,
-    WM_WINDOWPOSCHANGING,
-    WM_COPYDATA,
-    WM_NOTIFY,
-    WM_HELP,
-    WM_STYLECHANGED,
-    WM_STYLECHANGING,
-    WM_NCCREATE,
-    WM_NCCALCSIZE,
-    WM_SYSCOMMAND,
-    WM_NCLBUTTONDOWN,
-    WM_SIZING,
-    WM_MOVING,
-    WM_DEVICECHANGE,
-    WM_MDICREATE,
-    WM_WININICHANGE,
-    WM_DEVMODECHANGE,
-    WM_ASKCBFORMATNAME,
-    WM_POWERBROADCAST,
-    WM_CONTEXTMENU,
-    WM_GETICON,
-    WM_SETICON,
-    WM_NCRBUTTONDOWN,
-    WM_ENTERIDLE,
-    WM_NEXTMENU,
-    WM_GETDLGCODE,
-    WM_INPUTLANGCHANGEREQUEST,
-    WM_INPUTLANGCHANGE,
-    WM_PRINT,
-    WM_PRINTCLIENT,
-    WM_MDIGETACTIVE,
-    WM_GETTEXTLENGTH,
-    kPopUpSystemMenu,
+// Messages that carry addresses.
+constexpr std::array kWithAddresses = {
+    WM_CREATE,         WM_SETTEXT,      WM_GETTEXT,          WM_GETMINMAXINFO,
+    WM_DRAWITEM,       WM_MEASUREITEM,  WM_DELETEITEM,       WM_COMPAREITEM,
+    WM_COPYDATA,       WM_NOTIFY,       WM_WINDOWPOSCHANGED, WM_WINDOWPOSCHANGING,
+    WM_HELP,           WM_STYLECHANGED, WM_STYLECHANGING,    WM_NCCREATE,
+    WM_NCCALCSIZE,     WM_SIZING,       WM_MOVING,           WM_DEVICECHANGE,
+    WM_MDICREATE,      WM_MDIGETACTIVE, WM_WININICHANGE,     WM_DEVMODECHANGE,
+    WM_POWERBROADCAST, WM_NEXTMENU,     WM_GETDLGCODE,       WM_ASKCBFORMATNAME,
+    WM_IME_CONTROL,    WM_IME_REQUEST,
 };
 
+// Messages that the default procedure answers with a modal loop.
+constexpr std::array kModal = {UINT{WM_SYSCOMMAND}, UINT{WM_NCLBUTTONDOWN}, UINT{WM_NCRBUTTONDOWN},
+                               kPopUpSystemMenu};
+
 bool IsLeftOut(UINT message) {
-    const bool dde = message >= 0x03E0 && message <= 0x03E8;
-    const bool ime =
-        (message >= 0x0281 && message <= 0x0291) || (message >= 0x010D && message <= 0x010F);
-    const bool menu = message >= 0x01E0 && message <= 0x01FF;
-    const bool internal = message >= 0x0060 && message <= 0x006F;
-    return dde || ime || menu || internal ||
-           std::find(kLeftOut.begin(), kLeftOut.end(), message) != kLeftOut.end();
+    return std::find(kWithAddresses.begin(), kWithAddresses.end(), message) !=
+               kWithAddresses.end() ||
+           std::find(kModal.begin(), kModal.end(), message) != kModal.end();
 }
 
 // The handle of a device context is not a random one: where the system takes one for a metafile's,
 // it follows it without a look.
 bool CarriesContext(UINT message) {
     return message == WM_PAINT || message == WM_ERASEBKGND || message == WM_ICONERASEBKGND ||
-           message == kControlColor ||
+           message == WM_PRINT || message == WM_PRINTCLIENT || message == kControlColor ||
            (message >= WM_CTLCOLORMSGBOX && message <= WM_CTLCOLORSTATIC);
 }
 
@@ -112,14 +79,15 @@ void ChooseRandomMessages(const std::function<void(UINT, WPARAM, LPARAM)>& send,
     const auto parameter = [&] {
         return random() % 2 == 0 ? edge() : static_cast<LPARAM>(static_cast<LONG>(random()));
     };
-    for (int sent = 0; sent < count; ++sent) {
+    for (int sent = 0; sent < count;) {
         const UINT message = random() % (WM_USER + 513);
-        if (!IsLeftOut(message) &&
-            std::find(leftOut.begin(), leftOut.end(), message) == leftOut.end()) {
-            const LPARAM first = CarriesContext(message) ? edge() : parameter();
-            send(message, static_cast<WPARAM>(first), parameter());
+        if (IsLeftOut(message) ||
+            std::find(leftOut.begin(), leftOut.end(), message) != leftOut.end()) {
+            continue;
         }
-        if (sent % 1000 == 0) {
+        const LPARAM first = CarriesContext(message) ? edge() : parameter();
+        send(message, static_cast<WPARAM>(first), parameter());
+        if (++sent % 1000 == 0) {
             PumpMessages();
         }
     }

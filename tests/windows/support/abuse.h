@@ -15,9 +15,10 @@ HWND CreateForeignWindow();
 // A handle of a window that is gone.
 HWND DestroyedWindow();
 
-// Sends random messages from WM_NULL to WM_USER + 512 with random parameters to the window, which
-// is created again when it is gone. Messages whose parameters are pointers are left out, those of
-// the control's own as the caller tells. The seed is printed.
+// Sends this many random messages from WM_NULL to WM_USER + 512 with random parameters to the
+// window, which is created again when it is gone. Messages whose parameters are addresses and those
+// that begin a modal loop are left out, those of the control's own as the caller tells. The seed is
+// printed.
 void SendRandomMessages(const std::function<HWND()>& create, std::uint32_t seed, int count,
                         const std::vector<UINT>& leftOut = {});
 
