@@ -46,7 +46,7 @@ DWORD VersionOfFile(const char* file) {
 
 } // namespace vorn
 
-// Found among the process's modules, not by a path.
+// By the name alone: the system finds the DLL that the process has loaded under it.
 extern "C" DWORD WINAPI GetLongVersion() {
     return vorn::VersionOfFile("VORN32.DLL");
 }

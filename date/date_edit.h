@@ -58,11 +58,6 @@ void ReloadLayout(DateEntry& entry, const RegionalProfile& profile);
 // that the record handed back changes the date alone. The other fields stay.
 void GetEditParams(EditParams& params, const HeldDate& date);
 
-// Whether the record is one: of the size that it must have.
-constexpr bool IsEditParams(const EditParams& params) {
-    return params.size == kEditParamsSize;
-}
-
 // Takes the layout unless it is to be kept and, when `takeDate`, the date; null is then a date of
 // the year 0.
 void SetEditParams(DateEntry& entry, const EditParams& params, bool takeDate, const Date& today,

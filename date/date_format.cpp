@@ -11,8 +11,9 @@ constexpr int kFirst = 0;
 constexpr int kSecond = 1;
 constexpr int kThird = 2;
 
-// Numbers stop growing here: beyond the largest field, so that it is clamped like any larger one.
-constexpr std::int32_t kLargestNumber = 99999;
+// Numbers stop growing here: beyond the largest field, so that it is clamped like any larger one,
+// and where one more digit just fits.
+constexpr std::int32_t kLargestNumber = 214'748'363;
 
 bool IsDigit(char character) {
     return character >= '0' && character <= '9';

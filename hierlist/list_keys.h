@@ -24,9 +24,9 @@ constexpr bool IsListKey(std::uint32_t key) {
     return key >= kKeyTab && key <= kKeyPlus;
 }
 
-// The parent's answers to WM_VKEYTOITEM and WM_CHARTOITEM, beside rows.
-constexpr std::int32_t kAnswerHandled = -2; // the key or character is done with
-constexpr std::int32_t kAnswerDefault = -1;
+// The parent's answer to WM_VKEYTOITEM and WM_CHARTOITEM when the key or character is done with;
+// others are rows, or below 0 none.
+constexpr std::int32_t kAnswerHandled = -2;
 
 // What the list does about an answer before it goes on with the key or character: a row becomes the
 // caret's.

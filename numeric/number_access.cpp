@@ -93,6 +93,7 @@ edit::Actions Write(NumberEntry& entry, double value, Written as) {
     CutAtLimit(entry, text);
     edit::Actions actions;
     StoreEdited(entry, text, 0);
+    entry.settings.isNull = 0; // a number that was cut to nothing is 0, not none
     ResetCaret(entry);
     entry.modified = 0;
     Append(actions, {ActionKind::Repaint});

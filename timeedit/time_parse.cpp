@@ -62,6 +62,9 @@ bool MakeNull(HeldTime& held) {
 
 bool IsSameSuffix(const char* read, const char* suffix) {
     read = SkipBlanks(read);
+    if (*read == '\0') {
+        return *suffix == '\0';
+    }
     suffix = SkipBlanks(suffix);
     while (*read != '\0' && Lower(*read) == Lower(*suffix)) {
         read = SkipBlanks(read + 1);

@@ -212,6 +212,9 @@ TEST(DateEditString, IsNotChecked) {
     EXPECT_EQ(FromString("3/5/95", "M/d/yyyy"), (Date{3, 5, 95}));
     EXPECT_EQ(FromString("5.3.7", "d.M.yy", '.'), (Date{3, 5, 1907}));
     EXPECT_EQ(FromString("70000/77/0"), (Date{4464, 77, 1900})) << "the low 16 bits of 70,000";
+    EXPECT_EQ(FromString("3/5/123456"), (Date{3, 5, 57920})) << "those of 123,456";
+    EXPECT_EQ(FromString("3/99999999999999999999/7"), (Date{3, 52427, 1907}))
+        << "those of 214,748,363, where numbers end";
     EXPECT_EQ(FromString("-1/5/-3"), (Date{65535, 5, 1897}));
     EXPECT_EQ(FromString(" 3 / +5/ 95x"), (Date{3, 5, 1995}));
     EXPECT_EQ(FromString("x/y/z"), (Date{0, 0, 1900}));

@@ -233,6 +233,7 @@ TEST(NumberWrite, ATextThatReachesTheLimitIsCut) {
     EXPECT_TRUE(IsCutWritten(editor.entry, 7, Written::Integer));
     Write(editor.entry, 7, Written::Integer);
     EXPECT_EQ(editor.Text(), "") << "there is room for nothing";
+    EXPECT_EQ(editor.entry.settings.isNull, 0) << "and yet it is a number";
 }
 
 TEST(NumberWrite, StartsAfreshAndUnmodified) {

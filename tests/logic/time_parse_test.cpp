@@ -108,6 +108,8 @@ TEST(TimeParse, SuffixesWithBlanksAreRecognized) {
     EXPECT_FALSE(IsSameSuffix("", "x"));
     EXPECT_FALSE(IsSameSuffix("x", ""));
     EXPECT_FALSE(IsSameSuffix("[", "{")) << "32 apart, and no letters";
+    EXPECT_FALSE(IsSameSuffix("", " ")) << "none at all is not one of blanks";
+    EXPECT_EQ(TimeOf("14:30:00", TwelveHours(true, " ", "PM")), (Time{14, 30, 0}));
 }
 
 TEST(TimeParse, EmptyTextsMakeItNull) {

@@ -184,6 +184,21 @@ TEST_F(ButtonInput, RepeatsAsFastAsTimersDo) {
     EXPECT_FALSE(PumpFor(200, [&] { return !host.TakeNotifications().empty(); }));
 }
 
+TEST_F(ButtonInput, RepeatsAtTheKeyboardsSpeedSettingInMilliseconds) {
+    DWORD old = 0;
+    SystemParametersInfoA(SPI_GETKEYBOARDSPEED, 0, &old, 0);
+    SystemParametersInfoA(SPI_SETKEYBOARDSPEED, 31, nullptr, 0);
+    HWND button = CreateFocused(VBTS_AUTOREPEAT);
+    Press(button);
+    Tick(button, kDelay);
+    const DWORD start = GetTickCount();
+    std::size_t clicks = 0;
+    EXPECT_TRUE(PumpFor(20000, [&] { return (clicks += host.TakeNotifications().size()) >= 20; }));
+    EXPECT_GE(GetTickCount() - start, 20u * 31 - 60) << "by a coarse clock";
+    Release(button);
+    SystemParametersInfoA(SPI_SETKEYBOARDSPEED, old, nullptr, 0);
+}
+
 TEST_F(ButtonInput, AFirstPressRepeatsAndItsReleaseLeavesTheTimer) {
     HWND button = Create(VBTS_NOTIFY | VBTS_AUTOREPEAT);
     EXPECT_EQ(Press(button), (Codes{VBTN_SETFOCUS, VBTN_DOWN, VBTN_CLICKED}));

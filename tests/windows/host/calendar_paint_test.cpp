@@ -5,6 +5,7 @@
 #include "tests/windows/support/system_color.h"
 
 #include <algorithm>
+#include <array>
 #include <string>
 
 namespace {
@@ -20,9 +21,10 @@ using vorn::test::Pixels;
 using vorn::test::PixelsOf;
 using vorn::test::PumpMessages;
 
-const char* const kMonthNames[] = {"January",   "February", "March",    "April",
-                                   "May",       "June",     "July",     "August",
-                                   "September", "October",  "November", "December"};
+const std::array<std::string, 12> kMonthNames = {"January",   "February", "March",    "April",
+                                                 "May",       "June",     "July",     "August",
+                                                 "September", "October",  "November", "December"};
+constexpr char kInitials[] = "SMTWTFS";
 
 // No day is selected.
 constexpr int kNone = -1;
@@ -37,6 +39,8 @@ public:
 
     COLORREF selectionBack = GetSysColor(COLOR_HIGHLIGHT);
     COLORREF selectionText = GetSysColor(COLOR_HIGHLIGHTTEXT);
+    std::array<std::string, 12> monthNames = kMonthNames;
+    std::string initials = kInitials;
 
     Pixels Draw() const {
         return Drawing(width_, height_, GetSysColor(COLOR_BTNFACE), [&](HDC context) {
@@ -90,7 +94,8 @@ private:
         SelectObject(context, fonts_.title);
         RECT name = {left + 4, top, std::max(left + 4, right), top + fonts_.titleHeight};
         SetTextColor(context, GetSysColor(COLOR_CAPTIONTEXT));
-        DrawTextA(context, kMonthNames[month], -1, &name, DT_SINGLELINE | DT_NOPREFIX);
+        DrawTextA(context, monthNames[static_cast<std::size_t>(month)].c_str(), -1, &name,
+                  DT_SINGLELINE | DT_NOPREFIX);
         SelectObject(context, fonts_.small);
         DrawDays(context, month, left, top + fonts_.titleHeight, (panelWidth - 2) / 7);
     }
@@ -100,7 +105,8 @@ private:
         for (int weekday = 0; weekday < 7; ++weekday) {
             const RECT area = {left + weekday * column, top, left + (weekday + 1) * column,
                                top + fonts_.smallHeight};
-            WriteCentered(context, area, std::string(1, "SMTWTFS"[weekday]), ink);
+            WriteCentered(context, area,
+                          std::string(1, initials[static_cast<std::size_t>(weekday)]), ink);
         }
         int weekday = year_.First(month);
         int y = top + fonts_.smallHeight;
@@ -171,6 +177,55 @@ TEST_F(CalendarPaint, ShowsAllMonthsOfEveryYear) {
             << year.year;
         DestroyWindow(calendar);
     }
+}
+
+// The names of the whole process, which a host sets by any date edit, and by function without one.
+class HostsNames {
+public:
+    explicit HostsNames(HWND edit) {
+        const std::string months = Joined(kMonths);
+        SendMessageA(edit, VDTM_SETMONTHLITERALS, 0, reinterpret_cast<LPARAM>(months.c_str()));
+        SendMessageA(edit, VDTM_SETDAYLITERALS, 0, reinterpret_cast<LPARAM>(kDays));
+    }
+    ~HostsNames() {
+        const std::string months = Joined(kMonthNames);
+        dtSetMonthLiterals(nullptr, months.c_str());
+        dtSetDayLiterals(nullptr, kInitials);
+    }
+    HostsNames(const HostsNames&) = delete;
+    HostsNames& operator=(const HostsNames&) = delete;
+
+    static constexpr char kDays[] = "DLMWJVZ";
+    inline static const std::array<std::string, 12> kMonths = {
+        "Jaenner", "Feber", "Maerz", "Wandelmonat", "V",  "VI",
+        "VII",     "VIII",  "IX",    "X",           "XI", "XII"};
+
+private:
+    static std::string Joined(const std::array<std::string, 12>& names) {
+        std::string list;
+        for (const std::string& name : names) {
+            list += name + '\0';
+        }
+        return list;
+    }
+};
+
+TEST_F(CalendarPaint, ShowsTheHostsNamesFromItsNextPaint) {
+    HWND calendar = CreateShowing(2024);
+    HWND edit = host.Create(VORN_DATEEDIT_CLASS, 0, 0, 0, 10, 10);
+    const Pixels before = PixelsOf(calendar);
+    {
+        const HostsNames names(edit);
+        EXPECT_EQ(GetUpdateRect(calendar, nullptr, FALSE), FALSE) << "nothing is redrawn";
+        EXPECT_EQ(Difference(before, PixelsOf(calendar)), "");
+        RedrawWindow(calendar, nullptr, nullptr, RDW_INVALIDATE | RDW_UPDATENOW);
+        YearPicture picture(Year(2024), fonts, kWidth, kHeight);
+        picture.monthNames = HostsNames::kMonths;
+        picture.initials = HostsNames::kDays;
+        EXPECT_EQ(Difference(picture.Draw(), PixelsOf(calendar)), "");
+    }
+    RedrawWindow(calendar, nullptr, nullptr, RDW_INVALIDATE | RDW_UPDATENOW);
+    EXPECT_EQ(Difference(before, PixelsOf(calendar)), "");
 }
 
 TEST_F(CalendarPaint, CanBeRead) {
