@@ -33,10 +33,20 @@ HWND TheControl(HWND control, HWND) {
     return control;
 }
 
+HWND ItsParent(HWND control, HWND) {
+    return GetParent(control);
+}
+
+// The control and its parent have their own turns, whatever has the focus then.
+HWND AnotherFocus(HWND control, HWND) {
+    HWND focus = GetFocus();
+    return focus == control || focus == GetParent(control) ? nullptr : focus;
+}
+
 constexpr Target kTargets[] = {
     {"the control", TheControl},
-    {"its parent", [](HWND control, HWND) { return GetParent(control); }},
-    {"the focus", [](HWND, HWND) { return GetFocus(); }},
+    {"its parent", ItsParent},
+    {"the focus", AnotherFocus},
     {"the control, answering 1", TheControl, 1},
     {"the control, answering -1", TheControl, -1},
     {"the control, after an answer to a key", TheControl, 0, Calls::WithKeys},
@@ -61,10 +71,18 @@ bool Concerns(const Target& target, const Subject& subject, DWORD style) {
            name == (target.calls == Calls::OfParts ? VORN_FONTSELECT_CLASS : VORN_HIERLIST_CLASS);
 }
 
+// The others have no windows beside their own that take the focus.
+bool IsReached(const Target& target, const Subject& subject) {
+    const std::string name = subject.className;
+    return target.find != AnotherFocus || name == VORN_DATEEDIT_CLASS ||
+           name == VORN_FONTSELECT_CLASS || name == VORN_COMBOBOX_CLASS;
+}
+
 // An end that has begun is not begun anew.
-bool IsCall(UINT message, const Target& target) {
+bool IsCall(HWND control, UINT message, const Target& target) {
     return message != WM_DESTROY && message != WM_NCDESTROY &&
-           (target.answer == 0 || IsControls(message) || IsAsked(message));
+           (target.answer == 0 || IsControls(message) || IsAsked(message)) &&
+           (target.find != AnotherFocus || AnotherFocus(control, nullptr) != nullptr);
 }
 
 Trap TrapFor(const Target& target) {
@@ -72,7 +90,9 @@ Trap TrapFor(const Target& target) {
     trap.act = [&target](HWND control, HWND called) {
         DestroyWindow(target.find(control, called));
     };
-    trap.isCall = [&target](UINT message) { return IsCall(message, target); };
+    trap.isCall = [&target](HWND control, UINT message) {
+        return IsCall(control, message, target);
+    };
     trap.answer = target.answer;
     trap.inParts = target.calls == Calls::OfParts;
     if (target.calls == Calls::WithKeys) {
@@ -110,7 +130,11 @@ protected:
         for (const DWORD style : subject.styles) {
             for (const Target& target : kTargets) {
                 if (Concerns(target, subject, style)) {
-                    calls += RunFor(stage, subject, style, target);
+                    const int made = RunFor(stage, subject, style, target);
+                    EXPECT_TRUE(made > 0 || style != subject.styles[0] ||
+                                !IsReached(target, subject))
+                        << target.name;
+                    calls += made;
                 }
             }
         }

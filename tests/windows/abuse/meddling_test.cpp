@@ -86,7 +86,9 @@ protected:
             SCOPED_TRACE(deed.name);
             Trap trap;
             trap.act = deed.act;
-            trap.isCall = [](UINT message) { return IsControls(message) || IsAsked(message); };
+            trap.isCall = [](HWND, UINT message) {
+                return IsControls(message) || IsAsked(message);
+            };
             for (const Operation& operation : OperationsOf(subject)) {
                 SCOPED_TRACE(operation.name);
                 NoteDeed(deed.name + std::string(" in ") + operation.name + " of a " + className);

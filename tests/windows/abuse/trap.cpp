@@ -24,7 +24,7 @@ public:
 
     // What the call is answered, if this is the one and its answer is given.
     std::optional<LRESULT> Meet(HWND control, HWND called, UINT message) {
-        if (!armed_ || !trap_.isCall(message) || left_-- > 0) {
+        if (!armed_ || !trap_.isCall(control, message) || left_-- > 0) {
             return std::nullopt;
         }
         armed_ = false;

@@ -10,7 +10,7 @@ namespace vorn::test {
 
 struct Trap {
     std::function<void(HWND control, HWND called)> act;
-    std::function<bool(UINT message)> isCall;
+    std::function<bool(HWND control, UINT message)> isCall;
     LRESULT answer = 0; // of the call; 0: what the window itself answers, if it is still there
     std::optional<LRESULT> answerToKeys; // the parent's, in all other calls
     bool inParts = false; // calls of the windows that the control is made of count too
