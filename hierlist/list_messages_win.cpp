@@ -142,9 +142,7 @@ constexpr Answerer kAnswers[] = {
     },
     AddUnderHandle,
     [](const Call& call) -> LRESULT { return olbAddString(call.window, call.Text()); },
-    [](const Call& call) -> LRESULT {
-        return olbChangeStyle(call.window, call.Short());
-    },
+    [](const Call& call) -> LRESULT { return olbChangeStyle(call.window, call.Short()); },
     DoWithRow<olbCloseItem>,
     WithRowPair<olbCopyChildren>,
     WithHandlePair<olbCopyChildrenEx>,
