@@ -69,9 +69,19 @@ def comparisons(page):
         yield control, deed, other, ratio
 
 
+def tick_labels(scale):
+    """(place, label) of the powers of ten, and of the ticks between them that leave those room."""
+    labels = []
+    for tick in sorted(scale.ticks, key=lambda tick: (math.log10(tick) % 1 != 0, tick)):
+        place, label = scale(tick), f"{tick:g}"
+        if all(abs(place - other) > 4 * len(label + near) + 4 for other, near in labels):
+            labels.append((place, label))
+    return labels
+
+
 def ratio_picture(page):
     rows = list(comparisons(page))
-    scale = Scale([float(ratio) for *_, ratio in rows], 470, 850)
+    scale = Scale([float(ratio) for *_, ratio in rows], 485, 850)
     y, control, bars = 46, None, []
     for name, deed, other, ratio in rows:
         if name != control:
@@ -88,8 +98,8 @@ def ratio_picture(page):
             text(445, 18, "beside", "end", ' font-style="italic"')]
     for tick in scale.ticks:
         stroke = f' stroke="{INK}" stroke-opacity="{1 if tick == 1 else 0.3}"'
-        axis += [text(scale(tick), 40, f"{tick:g}", "middle"),
-                 line(scale(tick), 48, scale(tick), y + 10, stroke)]
+        axis.append(line(scale(tick), 48, scale(tick), y + 10, stroke))
+    axis += [text(x, 40, label, "middle") for x, label in tick_labels(scale)]
     return picture(900, y + 20, "What the library's controls take, divided by what others take", [
         *axis, *bars])
 
