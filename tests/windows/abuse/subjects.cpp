@@ -322,6 +322,15 @@ HWND Stage::CreateEmpty(DWORD style) {
 
 HWND Stage::CreateHere(DWORD style) {
     control_ = host().Create(subject_.className, style, 5, 5, subject_.size.cx, subject_.size.cy);
+#ifdef _WIN64
+    // When a hook does its worst to a window that is not there yet, 64-bit Wine comes back from the
+    // creation with other values in registers that calls preserve. So they are put back here.
+    asm volatile(""
+                 :
+                 :
+                 : "xmm6", "xmm7", "xmm8", "xmm9", "xmm10", "xmm11", "xmm12", "xmm13", "xmm14",
+                   "xmm15");
+#endif
     return control_;
 }
 
