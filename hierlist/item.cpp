@@ -165,6 +165,15 @@ std::uintptr_t ValueOf(const OlbItem* item) {
     return value;
 }
 
+std::uintptr_t DataOf(const OlbItem* item) {
+    return (item->marks & kMarkData) != 0 ? item->itemData : ValueOf(item);
+}
+
+void SetData(OlbItem* item, std::uintptr_t data) {
+    item->itemData = data;
+    item->marks |= kMarkData;
+}
+
 OlbItem* NewItem(Outline& outline, const char* text) {
     OlbItem* item = nullptr;
     if (HoldsValues(outline)) {

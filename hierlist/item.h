@@ -87,6 +87,10 @@ const char* SortKeyOf(const OlbItem* item);
 const char* TextOf(const OlbItem* item);
 std::uintptr_t ValueOf(const OlbItem* item);
 
+// The host's data: what it has set, else the value that the item holds, or 0.
+std::uintptr_t DataOf(const OlbItem* item);
+void SetData(OlbItem* item, std::uintptr_t data);
+
 enum class Redraw : std::uint8_t { All, FromRow, Row };
 
 // What the outline asks and tells the control.
@@ -100,8 +104,9 @@ struct Callbacks {
     // The parent's answer to how high a new row is, in pixels; kNoRow for an item that is hidden.
     std::uint16_t (*measure)(void* context, const OlbItem* item, std::uint32_t row);
 
-    // Tells the parent that an item is gone. kNoRow: it was hidden, or went with its parent.
-    void (*deleted)(void* context, std::uint32_t row, std::uintptr_t itemData);
+    // Tells the parent that an item with this data is gone. kNoRow: it was hidden, or went with its
+    // parent.
+    void (*deleted)(void* context, std::uint32_t row, std::uintptr_t data);
 
     void (*errorSpace)(void* context); // tells the parent that memory ran out
 

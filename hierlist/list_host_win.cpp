@@ -80,14 +80,14 @@ std::uint16_t Measure(void* context, const OlbItem* item, std::uint32_t row) {
     return ToHeight(question.itemHeight);
 }
 
-void Deleted(void* context, std::uint32_t row, std::uintptr_t itemData) {
+void Deleted(void* context, std::uint32_t row, std::uintptr_t data) {
     HWND window = RecordIn(context).window;
     DELETEITEMSTRUCT news{};
     news.CtlType = ODT_LISTBOX;
     news.CtlID = IdOf(window);
     news.itemID = row;
     news.hwndItem = window;
-    news.itemData = itemData;
+    news.itemData = data;
     AskParent(window, WM_DELETEITEM, news);
 }
 
@@ -193,7 +193,7 @@ ULONG_PTR OwnerDrawData(const OlbItem* item) {
     if ((item->marks & kMarkValue) == 0) {
         return reinterpret_cast<ULONG_PTR>(TextOf(item));
     }
-    return (item->marks & kMarkData) != 0 ? item->itemData : ValueOf(item);
+    return DataOf(item);
 }
 
 } // namespace vorn::hierlist

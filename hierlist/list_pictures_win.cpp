@@ -35,6 +35,15 @@ HBITMAP Exchange(void*& strip, HBITMAP bitmap) {
     return before;
 }
 
+// A parent's rectangle, within what can be reckoned with.
+constexpr LONG kFarthest = 1 << 28;
+
+Rect PlaceOf(const RECT& place) {
+    const auto reckonable = [](LONG number) { return std::clamp(number, -kFarthest, kFarthest); };
+    return {reckonable(place.left), reckonable(place.top), reckonable(place.right),
+            reckonable(place.bottom)};
+}
+
 // What a part of a row is painted with for a parent, which has painted the ground: pictures are
 // laid on the colour that is at the place's corner, or at the pixel next to it that is drawn at
 // all, since only a part of the row may need repainting, or be in the window.
@@ -140,7 +149,7 @@ extern "C" int WINAPI olbPaintBitmap(HWND window, HDC context, LONG row, const R
     if (item == nullptr || place == nullptr) {
         return LB_ERR;
     }
-    const Rect rect = FromPlatform(*place);
+    const Rect rect = PlaceOf(*place);
     const int left = rect.left + ContentStart(record->options, item->level);
     if (!ShowsPictures(record->options)) {
         return left;
@@ -154,7 +163,7 @@ extern "C" BOOL WINAPI olbPaintLines(HWND window, HDC context, LONG row, const R
     if (item == nullptr || place == nullptr) {
         return 0;
     }
-    const Rect rect = FromPlatform(*place);
+    const Rect rect = PlaceOf(*place);
     RowTools tools = ToolsFor(context, *record, {rect.left, rect.top});
     tools.lines = MakeLinePen(*record);
     if (tools.lines != nullptr) {

@@ -116,7 +116,7 @@ extern "C" LONG_PTR WINAPI olbGetItemDataEx(HWND window, HOLBITEM handle) {
     if (item == nullptr) {
         return LB_ERR;
     }
-    return static_cast<LONG_PTR>(HoldsValue(item) ? OwnerDrawData(item) : item->itemData);
+    return static_cast<LONG_PTR>(DataOf(item));
 }
 
 extern "C" LONG WINAPI olbSetItemData(HWND window, LONG row, LONG_PTR data) {
@@ -128,8 +128,7 @@ extern "C" LONG WINAPI olbSetItemDataEx(HWND window, HOLBITEM handle, LONG_PTR d
     if (item == nullptr) {
         return LB_ERR;
     }
-    item->itemData = static_cast<std::uintptr_t>(data);
-    item->marks |= kMarkData;
+    SetData(item, static_cast<std::uintptr_t>(data));
     return 0;
 }
 

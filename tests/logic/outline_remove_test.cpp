@@ -23,7 +23,7 @@ struct Small : TestHost {
         OpenItem(a);
         std::uintptr_t data = 0;
         for (OlbItem* item : {p, a, x, y, b, q}) {
-            item->itemData = ++data;
+            SetData(item, ++data);
         }
         log.clear();
     }

@@ -3,6 +3,7 @@
 #include "hierlist/list_view_win.h"
 #include "tests/windows/support/outline_list.h"
 
+#include <limits>
 #include <vector>
 
 namespace vorn::hierlist {
@@ -334,6 +335,18 @@ TEST_F(HierListOwnerDraw, PartsStandOnTheParentsGround) {
     EXPECT_EQ(pixels.At(0, 1), ground);
     EXPECT_EQ(pixels.At(2, 4), RGB(0, 0, 0)) << "the card's corner";
     EXPECT_EQ(pixels.Count({16, 0, 100, 18}, ground), 84 * 18);
+    // Wherever the place is, there is nothing to reckon wrongly with.
+    constexpr LONG kMost = std::numeric_limits<LONG>::max();
+    constexpr LONG kLeast = std::numeric_limits<LONG>::min();
+    test::Drawing(100, 18, ground, [&](HDC context) {
+        for (const RECT& place :
+             {RECT{kLeast, kLeast, kMost, kMost}, RECT{kMost, kMost, kLeast, kLeast},
+              RECT{kMost, kLeast, kMost, kMost}}) {
+            olbPaintLines(list, context, 0, &place);
+            EXPECT_EQ(olbPaintBitmap(list, context, 0, &place),
+                      (place.left == kMost ? 1 << 28 : -(1 << 28)) + 16);
+        }
+    });
     olbEnableBitmaps(list, FALSE);
     test::Drawing(100, 18, ground, [&](HDC context) {
         EXPECT_EQ(olbPaintBitmap(list, context, 0, &row), 0) << "nothing to draw";
@@ -386,12 +399,15 @@ TEST_F(HierListOwnerDraw, TheParentIsToldOfDeletions) {
     HWND list = Create(LBS_OWNERDRAWFIXED);
     AddValue(list, 1);
     AddValue(list, 2);
-    Row(list, 1)->itemData = 77;
-    DeleteItem(In(list)->outline, Row(list, 1));
-    ASSERT_EQ(deleted.size(), 1u);
+    olbSetItemData(list, 1, 77);
+    olbDeleteString(list, 1);
+    olbDeleteString(list, 0);
+    ASSERT_EQ(deleted.size(), 2u);
     EXPECT_EQ(deleted[0].hwndItem, list);
     EXPECT_EQ(deleted[0].itemID, 1u);
     EXPECT_EQ(deleted[0].itemData, 77u);
+    EXPECT_EQ(deleted[1].itemID, 0u);
+    EXPECT_EQ(deleted[1].itemData, 1u) << "the value, as no other data was set";
 }
 
 } // namespace
