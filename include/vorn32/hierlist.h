@@ -360,8 +360,8 @@ VORNAPI LONG WINAPI olbSetItemHeightEx(HWND window, HOLBITEM handle, LONG height
 
 /*
  * The texts from the top down to the item with separators between them, in a buffer of 256
- * characters, which is the result. The separator is a backslash at first; setting one results in the
- * one before, and olbGetPathSeparator writes it and a NUL.
+ * characters, which is the result. The separator is a backslash at first; setting one results in
+ * the one before, and olbGetPathSeparator writes it and a NUL.
  */
 VORNAPI LPSTR WINAPI olbGetFullPath(HWND window, LONG row, LPSTR buffer);
 VORNAPI LPSTR WINAPI olbGetFullPathEx(HWND window, HOLBITEM handle, LPSTR buffer);
