@@ -22,7 +22,7 @@ bool Meet(const Rect& first, const RECT& second) {
 
 // The list's own ground, or the parent's when it is to be asked; nothing but that is taken from the
 // parent. Runs host code, after which the record may be gone.
-Ground GroundOf(HWND window, HDC context) {
+Ground AskForGround(HWND window, HDC context) {
     const Record* record = RecordOf<Record>(window);
     const COLORREF own = ResolveColor(record->options.colors.background);
     if (!HasOption(record->options, kOptionAskBackground)) {
@@ -30,7 +30,7 @@ Ground GroundOf(HWND window, HDC context) {
     }
     const SavedContext saved(context);
     HBRUSH answer = AskForBrush(window, context, WM_CTLCOLORLISTBOX);
-    return vorn::GroundOf(answer, context, own);
+    return GroundOf(answer, context, own);
 }
 
 // A list without a caret has it in the first row that it shows, where the keys then begin.
@@ -110,7 +110,7 @@ void PaintFocus(HDC context, const Rect& rect) {
 
 void PaintRows(HWND window, const OffscreenPaint& offscreen) {
     const HDC context = offscreen.context();
-    const Ground ground = GroundOf(window, context);
+    const Ground ground = AskForGround(window, context);
     Record* record = RecordOf<Record>(window);
     if (record == nullptr) {
         return;

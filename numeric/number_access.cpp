@@ -92,8 +92,7 @@ edit::Actions Write(NumberEntry& entry, double value, Written as) {
     WriteWhole(entry.settings, value, as, text);
     CutAtLimit(entry, text);
     edit::Actions actions;
-    StoreEdited(entry, text, 0);
-    entry.settings.isNull = 0; // a number that was cut to nothing is 0, not none
+    StoreNumber(entry, text, 0);
     ResetCaret(entry);
     entry.modified = 0;
     Append(actions, {ActionKind::Repaint});

@@ -107,4 +107,9 @@ void StoreEdited(NumberEntry& entry, const char* text, std::int32_t caret) {
     KeepCaretInText(entry);
 }
 
+void StoreNumber(NumberEntry& entry, const char* text, std::int32_t caret) {
+    StoreEdited(entry, text, caret);
+    entry.settings.isNull = 0;
+}
+
 } // namespace vorn::numeric

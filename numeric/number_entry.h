@@ -78,4 +78,7 @@ void KeepCaretInText(NumberEntry& entry);
 // its first character.
 void StoreEdited(NumberEntry& entry, const char* text, std::int32_t caret);
 
+// The same for the text of a number, which is one even when the limit has left nothing of it.
+void StoreNumber(NumberEntry& entry, const char* text, std::int32_t caret);
+
 } // namespace vorn::numeric

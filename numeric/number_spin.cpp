@@ -27,7 +27,7 @@ Actions StoreStepped(NumberEntry& entry, double value) {
         Append(actions, {ActionKind::Notify, kTextCut});
     }
     entry.caret.firstVisible = 0;
-    StoreEdited(entry, text, kLongestText);
+    StoreNumber(entry, text, kLongestText);
     AppendNumberChange(actions, ActionKind::RepaintText);
     return actions;
 }

@@ -94,7 +94,7 @@ struct Session {
 
     void CheckBounds() const {
         Require(std::memchr(entry.text, '\0', sizeof entry.text) != nullptr);
-        Require((entry.settings.isNull != 0) == (entry.text[0] == '\0'));
+        Require(entry.settings.isNull == 0 || entry.text[0] == '\0');
         Require(entry.caret.selectionStart <= entry.caret.selectionEnd);
     }
 

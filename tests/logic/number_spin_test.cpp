@@ -216,6 +216,10 @@ TEST(NumberStep, ATextThatReachesTheLimitIsCut) {
     Editor decimals("1", kFloating, 100);
     EXPECT_EQ(Stepped(decimals, true), (List{{Notify, 0x500}}) + kStepped);
     EXPECT_EQ(decimals.Text(), "2." + std::string(60, '0')) << "62 characters";
+    SetTextLimit(editor.entry, 1);
+    Stepped(editor, true);
+    EXPECT_EQ(editor.Text(), "") << "there is room for nothing";
+    EXPECT_EQ(editor.Settings().isNull, 0) << "and yet it is a number";
 }
 
 TEST(NumberStep, ShowsTheTextFromItsStart) {
