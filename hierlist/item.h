@@ -104,9 +104,8 @@ struct Callbacks {
     // The parent's answer to how high a new row is, in pixels; kNoRow for an item that is hidden.
     std::uint16_t (*measure)(void* context, const OlbItem* item, std::uint32_t row);
 
-    // Tells the parent that an item with this data is gone. kNoRow: it was hidden, or went with its
-    // parent.
-    void (*deleted)(void* context, std::uint32_t row, std::uintptr_t data);
+    // Tells the parent that an item is gone. kNoRow: it was hidden, or went with its parent.
+    void (*deleted)(void* context, std::uint32_t row, std::uintptr_t itemData);
 
     void (*errorSpace)(void* context); // tells the parent that memory ran out
 

@@ -80,14 +80,14 @@ std::uint16_t Measure(void* context, const OlbItem* item, std::uint32_t row) {
     return ToHeight(question.itemHeight);
 }
 
-void Deleted(void* context, std::uint32_t row, std::uintptr_t data) {
+void Deleted(void* context, std::uint32_t row, std::uintptr_t itemData) {
     HWND window = RecordIn(context).window;
     DELETEITEMSTRUCT news{};
     news.CtlType = ODT_LISTBOX;
     news.CtlID = IdOf(window);
     news.itemID = row;
     news.hwndItem = window;
-    news.itemData = data;
+    news.itemData = itemData;
     AskParent(window, WM_DELETEITEM, news);
 }
 

@@ -65,7 +65,7 @@ void FreeBelow(OlbItem* root, const Watch* teller) {
         OlbItem* parent = item->parent != nullptr ? item->parent : root;
         if (teller != nullptr && !teller->Gone()) {
             const Outline& outline = *teller->Watched();
-            outline.callbacks->deleted(outline.context, kNoRow, DataOf(item));
+            outline.callbacks->deleted(outline.context, kNoRow, item->itemData);
         }
         FreeItem(item);
         item = next != nullptr ? FirstToFree(next) : parent;
@@ -93,7 +93,7 @@ std::uint32_t DeleteItem(Outline& outline, OlbItem* item) {
     const bool tells = TellsDeletes(outline);
     FreeBelow(item, tells ? &watch : nullptr);
     if (tells && !watch.Gone()) {
-        outline.callbacks->deleted(outline.context, row, DataOf(item));
+        outline.callbacks->deleted(outline.context, row, item->itemData);
     }
     FreeItem(item);
 

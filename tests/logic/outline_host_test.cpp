@@ -205,7 +205,7 @@ TEST(OutlineHost, DeletesWhatIsBeingDeleted) {
     SetData(host.items[1], 7);
     std::uint32_t answer = 0;
     std::int32_t left = 0;
-    host.Once("deleted 10", [&] {
+    host.Once("deleted 0", [&] {
         answer = DeleteItem(host.outline, host.items[1]);
         left = DeleteSubtree(host.outline, host.p);
         EXPECT_EQ(HandleToIndex(host.items[1]), kNoRow);

@@ -101,15 +101,15 @@ TEST_F(HierListDestroy, TellsOfAsMuchAsTheSystemsListBox) {
     for (const int which : {0, 1}) {
         HWND list = host.Create(classes[which], LBS_OWNERDRAWFIXED, 5, 6, 100, 100, kOutlineId);
         for (const LPARAM value : {5, 6, 7}) {
-            SendMessageA(list, LB_ADDSTRING, 0, value);
+            const LRESULT row = SendMessageA(list, LB_ADDSTRING, 0, value);
+            SendMessageA(list, LB_SETITEMDATA, static_cast<WPARAM>(row), value);
         }
-        SendMessageA(list, LB_SETITEMDATA, 2, 8);
         told.clear();
         DestroyWindow(list);
         data[which] = Data();
         std::sort(data[which].begin(), data[which].end());
     }
-    EXPECT_EQ(data[0], (Values{5, 6, 8}));
+    EXPECT_EQ(data[0], (Values{5, 6, 7}));
     EXPECT_EQ(data[1], data[0]);
 }
 

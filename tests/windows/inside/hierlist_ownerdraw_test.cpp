@@ -407,7 +407,7 @@ TEST_F(HierListOwnerDraw, TheParentIsToldOfDeletions) {
     EXPECT_EQ(deleted[0].itemID, 1u);
     EXPECT_EQ(deleted[0].itemData, 77u);
     EXPECT_EQ(deleted[1].itemID, 0u);
-    EXPECT_EQ(deleted[1].itemData, 1u) << "the value, as no other data was set";
+    EXPECT_EQ(deleted[1].itemData, 0u) << "none was set: it is not the value";
 }
 
 } // namespace
