@@ -78,8 +78,9 @@ protected:
     }
 };
 
-// What sounds as if it gave something, and looks up what lives as long as its module.
-const std::set<std::string> kLookUps = {"LoadLibraryA", "LoadCursorA", "LoadStringA"};
+// What sounds as if it gave something, and looks up a colour or what lives as long as its module.
+const std::set<std::string> kLookUps = {"LoadLibraryA", "LoadCursorA", "LoadStringA",
+                                        "GetDCBrushColor"};
 
 // What the checked build asks for besides: for the C++ runtime and for guarded blocks.
 #ifdef VORN_CHECKED
